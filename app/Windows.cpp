@@ -1,0 +1,30 @@
+#include "app/Windows.h"
+
+#include "output/window/AfdrukForm.h"
+#include "output/window/OpenForm.h"
+#include "output/window/SaveForm.h"
+
+#include <array>
+
+namespace kaart {
+
+namespace {
+
+template <typename Form>
+void open(Design& design, QWidget* parent) {
+    Form(design, parent).exec();
+}
+
+constexpr std::array table = {
+    WindowRow{"FileOpen", open<OpenForm>},
+    WindowRow{"FileSave", open<SaveForm>},
+    WindowRow{"FilePrint", open<AfdrukForm>},
+};
+
+} // namespace
+
+WindowTable windowTable() {
+    return table;
+}
+
+} // namespace kaart

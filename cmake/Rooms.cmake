@@ -1,0 +1,44 @@
+# One call per room: every source directly in its folder becomes one static library.
+# kaart_room(<target> <folder> USES <libraries...>)
+function(kaart_room target folder)
+    cmake_parse_arguments(ROOM "" "" "USES" ${ARGN})
+    file(GLOB sources CONFIGURE_DEPENDS ${folder}/*.cpp ${folder}/*.h ${folder}/platform/*.cpp
+         ${folder}/platform/*.h)
+    add_library(${target} STATIC ${sources})
+    target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR})
+    target_compile_definitions(${target} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
+    target_link_libraries(${target} PUBLIC ${ROOM_USES})
+endfunction()
+
+# The program itself, and beside it the folders that it reads at run time.
+function(kaart_program)
+    file(GLOB sources CONFIGURE_DEPENDS app/*.cpp app/*.h)
+    list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+    add_library(app STATIC ${sources})
+    target_include_directories(app PUBLIC ${CMAKE_SOURCE_DIR})
+    target_link_libraries(app PUBLIC design_window output_window)
+
+    add_executable(kaartwerkje app/main.cpp)
+    target_link_libraries(kaartwerkje PRIVATE app)
+
+    set(folders Data Lijsten Ontwerpen Frames Templates Achtergronden Maskers Stickers Vectors)
+    set(bin ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+    foreach(folder ${folders})
+        file(MAKE_DIRECTORY ${bin}/${folder})
+        file(GLOB files CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/data/${folder}/*)
+        foreach(file ${files})
+            file(COPY ${file} DESTINATION ${bin}/${folder})
+        endforeach()
+    endforeach()
+endfunction()
+
+# Icons and drawings become resources of a room: :/icons/<name>.svg and :/art/<name>.svg.
+function(kaart_pictures target)
+    foreach(folder icons art)
+        file(GLOB files CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/data/${folder}/*.svg)
+        if(files)
+            qt_add_resources(${target} ${folder} PREFIX /${folder}
+                             BASE ${CMAKE_SOURCE_DIR}/data/${folder} FILES ${files})
+        endif()
+    endforeach()
+endfunction()

@@ -1,0 +1,29 @@
+# Language, warnings and sanitizers, the same for every target.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTORCC ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+
+option(KAART_SANITIZE "Build with AddressSanitizer and UBSan" OFF)
+
+if(NOT CMAKE_BUILD_TYPE)
+    set(CMAKE_BUILD_TYPE Release)
+endif()
+
+find_program(CCACHE ccache)
+if(CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+add_compile_options(-Wall -Wextra -Wconversion -Wshadow -Werror)
+# Kernels promise results exact to the bit: no fused multiply-add behind their back.
+add_compile_options(-ffp-contract=off)
+add_compile_definitions(QT_NO_FOREACH)
+
+if(KAART_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -O1)
+    add_link_options(-fsanitize=address,undefined)
+endif()

@@ -1,0 +1,84 @@
+#include "design/surface/RunKernels.h"
+
+// Highway compiles this file once for every kind of processor.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "design/surface/RunKernels.cpp"
+#include <hwy/foreach_target.h>
+
+#include <hwy/highway.h>
+
+HWY_BEFORE_NAMESPACE();
+namespace kaart {
+namespace HWY_NAMESPACE {
+
+namespace hn = hwy::HWY_NAMESPACE;
+using Lanes = hn::ScalableTag<Pixel>;
+
+std::size_t DifferentRun(const Pixel* pixels, std::size_t count, Pixel value) {
+    const Lanes d;
+    const std::size_t lanes = hn::Lanes(d);
+    const auto wanted = hn::Set(d, value);
+    std::size_t i = 0;
+    while (i + lanes <= count && hn::AllFalse(d, hn::Eq(hn::LoadU(d, pixels + i), wanted))) {
+        i += lanes;
+    }
+    while (i < count && pixels[i] != value) {
+        ++i;
+    }
+    return i;
+}
+
+std::size_t ReplaceRun(Pixel* pixels, std::size_t count, Pixel value, Pixel by) {
+    const Lanes d;
+    const std::size_t lanes = hn::Lanes(d);
+    const auto wanted = hn::Set(d, value);
+    const auto replacement = hn::Set(d, by);
+    std::size_t i = 0;
+    while (i + lanes <= count && hn::AllTrue(d, hn::Eq(hn::LoadU(d, pixels + i), wanted))) {
+        hn::StoreU(replacement, d, pixels + i);
+        i += lanes;
+    }
+    for (; i < count && pixels[i] == value; ++i) {
+        pixels[i] = by;
+    }
+    return i;
+}
+
+void FillRun(Pixel* pixels, std::size_t count, Pixel value) {
+    const Lanes d;
+    const std::size_t lanes = hn::Lanes(d);
+    const auto wanted = hn::Set(d, value);
+    std::size_t i = 0;
+    for (; i + lanes <= count; i += lanes) {
+        hn::StoreU(wanted, d, pixels + i);
+    }
+    for (; i < count; ++i) {
+        pixels[i] = value;
+    }
+}
+
+} // namespace HWY_NAMESPACE
+} // namespace kaart
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace kaart {
+
+HWY_EXPORT(DifferentRun);
+HWY_EXPORT(ReplaceRun);
+HWY_EXPORT(FillRun);
+
+std::size_t differentRun(const Pixel* pixels, std::size_t count, Pixel value) {
+    return HWY_DYNAMIC_DISPATCH(DifferentRun)(pixels, count, value);
+}
+
+std::size_t replaceRun(Pixel* pixels, std::size_t count, Pixel value, Pixel by) {
+    return HWY_DYNAMIC_DISPATCH(ReplaceRun)(pixels, count, value, by);
+}
+
+void fillRun(Pixel* pixels, std::size_t count, Pixel value) {
+    HWY_DYNAMIC_DISPATCH(FillRun)(pixels, count, value);
+}
+
+} // namespace kaart
+#endif

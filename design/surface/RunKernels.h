@@ -1,0 +1,17 @@
+#pragma once
+
+#include "design/surface/ColorRef.h"
+
+#include <cstddef>
+
+namespace kaart {
+
+// Runs of pixels, with the widest vectors that the processor has.
+
+/// How many of the first `count` pixels have another value, up to the first that has it.
+std::size_t differentRun(const Pixel* pixels, std::size_t count, Pixel value);
+/// Replaces the leading run of exactly this value and answers its length.
+std::size_t replaceRun(Pixel* pixels, std::size_t count, Pixel value, Pixel by);
+void fillRun(Pixel* pixels, std::size_t count, Pixel value);
+
+} // namespace kaart

@@ -1,0 +1,244 @@
+#include "tests/tour/Chapters.h"
+
+#include "controls/ControlTable.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTimer>
+#include <QtTest>
+
+#include <array>
+#include <cmath>
+#include <numbers>
+
+using namespace kaart;
+
+namespace {
+
+void pickColour(User& user, const char* sliders, ColorRef colour) {
+    const std::array parts = {redOf(colour), greenOf(colour), blueOf(colour)};
+    for (int i = 0; i < 3; ++i) {
+        user.slide(QStringLiteral("%1(%2)").arg(QLatin1String(sliders)).arg(i),
+                   parts.at(static_cast<std::size_t>(i)));
+    }
+}
+
+/// Points of a closed curve given in parts of a turn.
+template <typename Curve>
+QList<QPoint> along(int steps, Curve curve) {
+    QList<QPoint> path;
+    for (int i = 0; i <= steps; ++i) {
+        path << curve(2 * std::numbers::pi * i / steps).toPoint();
+    }
+    return path;
+}
+
+/// A balloon at a place: its outline by free hand, filled, with a string.
+void drawBalloon(User& user, QPointF middle, double size, ColorRef colour) {
+    QWidget& pic = user.find(QStringLiteral("Pic"));
+    user.click(QStringLiteral("TekenKnop(0)"));
+    user.drag(pic, along(40, [&](double t) {
+                  return middle + QPointF(size * std::sin(t), -1.2 * size * std::cos(t));
+              }));
+    user.drag(pic, along(24, [&](double t) {
+                  return middle + QPointF(6 * std::sin(2 * t), 1.2 * size + 2 + 24 * t);
+              }));
+    pickColour(user, "VulScroll", colour);
+    user.click(QStringLiteral("TekenKnop(3)"));
+    user.clickAt(pic, middle.toPoint());
+}
+
+void emptyCard(User& user, Design&) {
+    user.photo(QStringLiteral("lege-kaart"));
+}
+
+void drawCard(User& user, Design& design) {
+    pickColour(user, "HScroll1", RGB(120, 40, 60));
+    user.slide(QStringLiteral("HScroll2"), 3);
+    drawBalloon(user, {130, 200}, 70, RGB(228, 87, 46));
+    drawBalloon(user, {310, 180}, 62, RGB(46, 134, 171));
+    drawBalloon(user, {225, 130}, 66, RGB(243, 182, 31));
+    user.photo(QStringLiteral("losse-hand-en-vullen"));
+
+    pickColour(user, "HScroll1", RGB(91, 154, 61));
+    user.slide(QStringLiteral("HScroll2"), 6);
+    user.click(QStringLiteral("TekenKnop(1)"));
+    QWidget& pic = user.find(QStringLiteral("Pic"));
+    user.drag(pic, {{0, 560}, {220, 540}, {439, 560}});
+    for (int x = 30; x < 440; x += 45) {
+        user.drag(pic, {{x, 556}, {x - 8, 530}});
+        user.drag(pic, {{x, 556}, {x + 10, 526}});
+    }
+    pickColour(user, "VulScroll", RGB(200, 226, 170));
+    user.click(QStringLiteral("TekenKnop(3)"));
+    user.clickAt(pic, {220, 620});
+    user.photo(QStringLiteral("rechte-lijnen"));
+    if (!design.Gewijzigd) {
+        user.fail(QStringLiteral("drawing did not mark the design"));
+    }
+}
+
+void useAids(User& user, Design&) {
+    user.click(QStringLiteral("Check1"));
+    user.click(QStringLiteral("Check5"));
+    user.click(QStringLiteral("TekenKnop(4)"));
+    QWidget& pic = user.find(QStringLiteral("Pic"));
+    user.slide(QStringLiteral("HScroll4"), 40);
+    QTest::mousePress(&pic, Qt::LeftButton, {}, {400, 80});
+    QTest::mouseMove(&pic, {400, 80});
+    user.photo(QStringLiteral("gum-tekenkruis-lineaal"));
+    QTest::mouseRelease(&pic, Qt::LeftButton, {}, {400, 80});
+    user.click(QStringLiteral("Check1"));
+    user.click(QStringLiteral("Check5"));
+
+    user.clickAt(pic, {130, 200}, Qt::RightButton);
+    user.click(QStringLiteral("TekenKnop(5)"));
+    QTimer::singleShot(400, [&user] {
+        user.photo(QStringLiteral("selectie"));
+        user.press(Qt::Key_Escape);
+    });
+    user.drag(pic, {{60, 100}, {200, 250}, {390, 420}});
+}
+
+void switchPanels(User& user, Design&) {
+    user.click(QStringLiteral("TekenKnop(6)"));
+    user.click(QStringLiteral("TekenKnop(9)"));
+    user.photo(QStringLiteral("andere-panelen"));
+    user.click(QStringLiteral("TekenKnop(66)"));
+    user.click(QStringLiteral("TekenKnop(55)"));
+}
+
+void saveDesign(User& user, Design& design) {
+    user.during([&] { user.menu(QStringLiteral("File"), QStringLiteral("FileSave"), true); },
+                [&] {
+                    user.click(QStringLiteral("Text1"));
+                    user.type(QStringLiteral("Drie ballonnen"));
+                    user.photo(QStringLiteral("opslaan"));
+                    QTimer::singleShot(1200,
+                                       [&user] { user.photo(QStringLiteral("opslaan-bezig")); });
+                    user.click(QStringLiteral("SaveKnop"));
+                });
+    if (design.Gewijzigd ||
+        !QFile::exists(design.Folders.in(QStringLiteral("Ontwerpen/Drie ballonnen.bmp"))) ||
+        !QFile::exists(design.Folders.pictures + QStringLiteral("/Drie ballonnen.jpg"))) {
+        user.fail(QStringLiteral("the design was not saved"));
+    }
+}
+
+void newAndOpen(User& user, Design& design) {
+    const QImage saved = design.Pic().Image().copy();
+    user.during([&] { user.press(Qt::Key_N, Qt::ControlModifier); },
+                [&] {
+                    user.photo(QStringLiteral("nieuw"));
+                    user.press(Qt::Key_Return);
+                });
+    if (design.Pic().Image() == saved) {
+        user.fail(QStringLiteral("the new design is not empty"));
+    }
+    user.during([&] { user.menu(QStringLiteral("File"), QStringLiteral("FileOpen")); },
+                [&] {
+                    auto* list = qobject_cast<QListWidget*>(&user.find(QStringLiteral("List1")));
+                    const QRect row = list->visualItemRect(list->item(0));
+                    user.clickAt(*list->viewport(), row.center());
+                    user.photo(QStringLiteral("openen"));
+                    user.click(QStringLiteral("OkKnop"));
+                });
+    user.photo(QStringLiteral("geopend"));
+    if (design.Pic().Image() != saved || design.OntwerpNaam != QStringLiteral("Drie ballonnen")) {
+        user.fail(QStringLiteral("the opened design is not the saved one"));
+    }
+}
+
+/// Prints with an option, to a PDF file in the tour's folder.
+void print(User& user, const Design& design, int option, const QString& file) {
+    const QString path = QFileInfo(design.Folders.program).path() + QLatin1Char('/') + file;
+    user.during([&] { user.press(Qt::Key_P, Qt::ControlModifier); },
+                [&] {
+                    if (option == 0) {
+                        for (int preview : {3, 2, 1, 0}) {
+                            user.click(QStringLiteral("Option1(%1)").arg(preview));
+                            user.photo(QStringLiteral("afdrukken-%1").arg(preview + 1));
+                        }
+                        user.click(QStringLiteral("Check1"));
+                    } else {
+                        user.click(QStringLiteral("Option1(%1)").arg(option));
+                    }
+                    user.during([&] { user.click(QStringLiteral("PrintKnop")); },
+                                [&] {
+                                    auto* dialog = qobject_cast<QFileDialog*>(
+                                        QApplication::activeModalWidget());
+                                    if (dialog == nullptr) {
+                                        user.fail(QStringLiteral("no file is asked for"));
+                                        return;
+                                    }
+                                    auto* name = dialog->findChild<QLineEdit*>();
+                                    name->setFocus();
+                                    name->selectAll();
+                                    user.type(path);
+                                    if (option == 0) {
+                                        user.photo(QStringLiteral("pdf-kiezen"));
+                                    }
+                                    user.press(Qt::Key_Return);
+                                });
+                });
+    if (!QFile::exists(path)) {
+        user.fail(path + QStringLiteral(" was not printed"));
+    }
+}
+
+void printSheets(User& user, Design& design) {
+    print(user, design, 0, QStringLiteral("A4-staand.pdf"));
+    print(user, design, 1, QStringLiteral("Vouwkaart-staand.pdf"));
+}
+
+void lieDown(User& user, Design& design) {
+    user.menu(QStringLiteral("Orientation"), QStringLiteral("Richting(2)"), true);
+    pickColour(user, "HScroll1", RGB(138, 79, 125));
+    user.slide(QStringLiteral("HScroll2"), 4);
+    drawBalloon(user, {180, 150}, 80, RGB(91, 154, 61));
+    drawBalloon(user, {420, 170}, 80, RGB(243, 182, 31));
+    user.photo(QStringLiteral("liggend"));
+    print(user, design, 1, QStringLiteral("Vouwkaart-liggend.pdf"));
+}
+
+void aboutAndGoodbye(User& user, Design& design) {
+    user.during([&] { user.click(QStringLiteral("AboutKnop")); },
+                [&] {
+                    user.photo(QStringLiteral("about"));
+                    user.click(QStringLiteral("CancelKnop"));
+                });
+    user.during([&] { user.click(QStringLiteral("ResetKnop")); },
+                [&] {
+                    user.photo(QStringLiteral("resetten"));
+                    user.press(Qt::Key_Return);
+                });
+    if (design.LijnDikte != 2) {
+        user.fail(QStringLiteral("the buttons were not set back"));
+    }
+    user.during([&] { user.press(Qt::Key_Q, Qt::ControlModifier); },
+                [&] {
+                    user.photo(QStringLiteral("afsluiten"));
+                    user.press(Qt::Key_Return);
+                });
+}
+
+constexpr std::array table = {
+    Chapter{"an empty card", emptyCard},
+    Chapter{"drawing", drawCard},
+    Chapter{"aids, eraser and selection", useAids},
+    Chapter{"the other panels", switchPanels},
+    Chapter{"saving", saveDesign},
+    Chapter{"a new card, and the old one again", newAndOpen},
+    Chapter{"printing", printSheets},
+    Chapter{"a lying card", lieDown},
+    Chapter{"goodbye", aboutAndGoodbye},
+};
+
+} // namespace
+
+std::span<const Chapter> chapters() {
+    return table;
+}

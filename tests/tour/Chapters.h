@@ -1,0 +1,14 @@
+#pragma once
+
+#include "design/session/Design.h"
+#include "tests/tour/User.h"
+
+#include <span>
+
+/// One part of the tour; each begins where the one before it ended.
+struct Chapter {
+    const char* name;
+    void (*play)(User& user, kaart::Design& design);
+};
+
+std::span<const Chapter> chapters();

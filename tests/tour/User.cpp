@@ -1,0 +1,193 @@
+#include "tests/tour/User.h"
+
+#include <QAbstractItemView>
+#include <QAbstractSlider>
+#include <QApplication>
+#include <QComboBox>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+#include <QTimer>
+#include <QtTest>
+
+User::User(QString folder) : folder_(std::move(folder)) {}
+
+QWidget* User::front() {
+    if (QWidget* popUp = QApplication::activePopupWidget()) {
+        return popUp;
+    }
+    if (QWidget* modal = QApplication::activeModalWidget()) {
+        return modal;
+    }
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (qobject_cast<QMainWindow*>(window) != nullptr) {
+            return window;
+        }
+    }
+    return nullptr;
+}
+
+void User::fail(const QString& what) const {
+    if (!std::exchange(failed_, true)) {
+        std::fprintf(stderr, "tour: %s\n", qPrintable(what));
+    }
+}
+
+void User::wait(int ms) const {
+    QTest::qWait(ms);
+}
+
+void User::photo(const QString& name) {
+    wait(150);
+    const QString file = QStringLiteral("%1/%2-%3.png")
+                             .arg(folder_)
+                             .arg(++photos_, 2, 10, QLatin1Char('0'))
+                             .arg(name);
+    QRect shown;
+    for (const QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible()) {
+            shown |= window->frameGeometry();
+        }
+    }
+    QScreen* screen = QGuiApplication::primaryScreen();
+    const QImage picture = screen->grabWindow(0).toImage().copy(shown & screen->geometry());
+    if (picture.isNull() || !picture.save(file)) {
+        fail(QStringLiteral("no picture ") + file);
+    }
+}
+
+QWidget& User::find(const QString& name) const {
+    QWidget* window = front();
+    QWidget* found = window == nullptr ? nullptr : window->findChild<QWidget*>(name);
+    if (found == nullptr || !found->isVisible()) {
+        fail(name + QStringLiteral(" is not there"));
+        static QWidget nothing;
+        return nothing;
+    }
+    return *found;
+}
+
+void User::clickAt(QWidget& widget, QPoint at, Qt::MouseButton button) const {
+    QTest::mouseMove(&widget, at);
+    QTest::mouseClick(&widget, button, {}, at);
+    wait(20);
+}
+
+void User::doubleClickAt(QWidget& widget, QPoint at) const {
+    QTest::mouseDClick(&widget, Qt::LeftButton, {}, at);
+    wait(20);
+}
+
+void User::click(const QString& name, Qt::MouseButton button) const {
+    QWidget& widget = find(name);
+    if (!widget.isEnabled()) {
+        fail(name + QStringLiteral(" is disabled"));
+    }
+    // Check boxes and option buttons react on their left part only.
+    clickAt(widget, QPoint(std::min(10, widget.width() / 2), widget.height() / 2), button);
+}
+
+void User::drag(QWidget& widget, const QList<QPoint>& path) const {
+    QTest::mousePress(&widget, Qt::LeftButton, {}, path.first());
+    for (const QPoint& at : path) {
+        const QPoint global = widget.mapToGlobal(at);
+        QCursor::setPos(global);
+        QMouseEvent move(QEvent::MouseMove, at, global, Qt::NoButton, Qt::LeftButton, {});
+        QApplication::sendEvent(&widget, &move);
+        wait(2);
+    }
+    QTest::mouseRelease(&widget, Qt::LeftButton, {}, path.last());
+    wait(20);
+}
+
+void User::type(const QString& text) const {
+    QTest::keyClicks(QApplication::focusWidget(), text);
+}
+
+void User::press(Qt::Key key, Qt::KeyboardModifiers modifiers) const {
+    QWidget* popUp = QApplication::activePopupWidget();
+    if (popUp == nullptr) {
+        // Without a window manager nobody else hands the keyboard on.
+        front()->activateWindow();
+        if (!QTest::qWaitForWindowActive(front(), 2000)) {
+            fail(QStringLiteral("the window in front does not get the keyboard"));
+        }
+    }
+    QWidget* focus = QApplication::focusWidget();
+    QTest::keyClick(popUp != nullptr ? popUp : focus != nullptr ? focus : front(), key, modifiers);
+    wait(20);
+}
+
+void User::slide(const QString& name, int value) const {
+    auto* slider = qobject_cast<QAbstractSlider*>(&find(name));
+    if (slider == nullptr) {
+        return;
+    }
+    slider->setFocus();
+    QTest::keyClick(slider, Qt::Key_Home);
+    for (int i = slider->minimum(); i < value; ++i) {
+        QTest::keyClick(slider, Qt::Key_Right);
+    }
+    if (slider->value() != value) {
+        fail(name + QStringLiteral(" does not follow its keys"));
+    }
+    wait(20);
+}
+
+void User::choose(const QString& name, const QString& text) const {
+    auto* combo = qobject_cast<QComboBox*>(&find(name));
+    const int row = combo == nullptr ? -1 : combo->findText(text);
+    if (row < 0) {
+        fail(name + QStringLiteral(" has no ") + text);
+        return;
+    }
+    combo->setFocus();
+    combo->showPopup();
+    wait();
+    combo->view()->setCurrentIndex(combo->model()->index(row, combo->modelColumn()));
+    QTest::keyClick(combo->view(), Qt::Key_Return);
+    wait();
+}
+
+void User::menu(const QString& menu, const QString& entry, bool picture) {
+    auto* window = qobject_cast<QMainWindow*>(front());
+    auto* found = window == nullptr ? nullptr : window->findChild<QMenu*>(menu);
+    auto* action = window == nullptr ? nullptr : window->findChild<QAction*>(entry);
+    if (found == nullptr || action == nullptr || !action->isEnabled()) {
+        fail(entry + QStringLiteral(" can't be chosen"));
+        return;
+    }
+    QMenuBar* bar = window->menuBar();
+    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(found->menuAction()).center());
+    wait();
+    if (picture) {
+        photo(QStringLiteral("menu-") + menu.toLower());
+    }
+    QTest::mouseMove(found, found->actionGeometry(action).center());
+    QTest::mouseClick(found, Qt::LeftButton, {}, found->actionGeometry(action).center());
+    wait();
+}
+
+void User::during(const std::function<void()>& opens, const std::function<void()>& inside) const {
+    QWidget* before = front();
+    bool done = false;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+        if (!done && front() != before && front()->isVisible() &&
+            QApplication::activePopupWidget() == nullptr) {
+            done = true;
+            look.stop();
+            wait();
+            inside();
+        }
+    });
+    look.start(20);
+    opens();
+    for (int i = 0; i < 50 && !done; ++i) {
+        wait(20);
+    }
+    if (!done) {
+        fail(QStringLiteral("no window came up"));
+    }
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QPoint>
+#include <QString>
+#include <QWidget>
+
+#include <functional>
+
+class QAction;
+
+/// A person at the screen: works the program's real windows with mouse and keys and takes pictures
+/// of the screen. Whatever is not there when it is looked for ends the tour with a message.
+class User {
+public:
+    explicit User(QString folder);
+
+    /// Lets the program run, ms.
+    void wait(int ms = 60) const;
+    /// Saves the screen as the next numbered picture of the tour.
+    void photo(const QString& name);
+
+    // Mouse and keys, on the control of that name in the window in front.
+    QWidget& find(const QString& name) const;
+    void click(const QString& name, Qt::MouseButton button = Qt::LeftButton) const;
+    void clickAt(QWidget& widget, QPoint at, Qt::MouseButton button = Qt::LeftButton) const;
+    void doubleClickAt(QWidget& widget, QPoint at) const;
+    void drag(QWidget& widget, const QList<QPoint>& path) const;
+    void type(const QString& text) const;
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const;
+    /// Sets a slider with the mouse and the keys.
+    void slide(const QString& name, int value) const;
+    /// Chooses an entry of a drop-down list.
+    void choose(const QString& name, const QString& text) const;
+    /// Opens a menu of the bar and chooses an entry of it.
+    void menu(const QString& menu, const QString& entry, bool picture = false);
+
+    /// Does something that opens a window or pop-up, and acts in it while it is in front.
+    void during(const std::function<void()>& opens, const std::function<void()>& inside) const;
+
+    bool failed() const { return failed_; }
+    void fail(const QString& what) const;
+
+private:
+    static QWidget* front();
+
+    QString folder_;
+    int photos_ = 0;
+    mutable bool failed_ = false;
+};
