@@ -56,6 +56,8 @@ public:
     ScaleUnit ParentUnit = ScaleUnit::Pixels;
     /// Takes on the size of every picture that is set; an empty picture leaves the size.
     bool AutoSize = false;
+    /// All drawing goes to Image and stays there.
+    static constexpr bool AutoRedraw = true;
     double Width() const;  ///< in ParentUnit
     double Height() const; ///< in ParentUnit
     /// New outer size in ParentUnit. Content that still fits stays, new ground is BackColor.
