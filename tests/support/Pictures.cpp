@@ -8,7 +8,7 @@ using namespace kaart;
 
 namespace {
 
-constexpr std::array<ColorRef, 10> colours = {
+constexpr std::array<ColorRef, 10> palette = {
     RGB(255, 255, 255), RGB(0, 0, 0),      RGB(255, 0, 0),  RGB(0, 255, 0),
     RGB(0, 0, 255),     RGB(40, 40, 40),   RGB(80, 80, 80), RGB(120, 120, 120),
     RGB(160, 160, 160), RGB(200, 200, 200)};
@@ -16,7 +16,7 @@ constexpr std::array<ColorRef, 10> colours = {
 } // namespace
 
 ColorRef colourOf(char digit) {
-    return colours.at(static_cast<std::size_t>(digit - '0'));
+    return palette.at(static_cast<std::size_t>(digit - '0'));
 }
 
 QStringList spell(const QImage& picture) {
@@ -26,10 +26,10 @@ QStringList spell(const QImage& picture) {
         QString row;
         for (int x = 0; x < span.width; ++x) {
             const auto found =
-                std::find(colours.begin(), colours.end(), toColorRef(span.row(y)[x]));
-            row += found == colours.end()
+                std::find(palette.begin(), palette.end(), toColorRef(span.row(y)[x]));
+            row += found == palette.end()
                        ? QLatin1Char('?')
-                       : QLatin1Char(static_cast<char>('0' + (found - colours.begin())));
+                       : QLatin1Char(static_cast<char>('0' + (found - palette.begin())));
         }
         rows << row;
     }
