@@ -153,9 +153,8 @@ void User::choose(const QString& name, const QString& text) const {
 void User::menu(const QString& menu, const QString& entry, bool picture) {
     auto* window = qobject_cast<QMainWindow*>(front());
     auto* found = window == nullptr ? nullptr : window->findChild<QMenu*>(menu);
-    auto* action = window == nullptr ? nullptr : window->findChild<QAction*>(entry);
-    if (found == nullptr || action == nullptr || !action->isEnabled()) {
-        fail(entry + QStringLiteral(" can't be chosen"));
+    if (found == nullptr) {
+        fail(menu + QStringLiteral(" is not there"));
         return;
     }
     QMenuBar* bar = window->menuBar();
@@ -164,9 +163,44 @@ void User::menu(const QString& menu, const QString& entry, bool picture) {
     if (picture) {
         photo(QStringLiteral("menu-") + menu.toLower());
     }
-    QTest::mouseMove(found, found->actionGeometry(action).center());
-    QTest::mouseClick(found, Qt::LeftButton, {}, found->actionGeometry(action).center());
-    wait();
+    chooseEntry(*found, entry);
+}
+
+void User::choosePopUp(const std::function<void()>& opens, const QString& entry,
+                       const QString& picture) {
+    bool done = false;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+        auto* popUp = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        if (done || popUp == nullptr) {
+            return;
+        }
+        done = true;
+        look.stop();
+        if (!picture.isEmpty()) {
+            photo(picture);
+        }
+        chooseEntry(*popUp, entry);
+    });
+    look.start(20);
+    opens();
+    if (!done) {
+        fail(QStringLiteral("no menu came up for ") + entry);
+    }
+}
+
+void User::chooseEntry(QMenu& menu, const QString& entry) const {
+    for (QAction* action : menu.actions()) {
+        if (action->objectName() == entry && action->isEnabled()) {
+            const QPoint at = menu.actionGeometry(action).center();
+            QTest::mouseMove(&menu, at);
+            QTest::mouseClick(&menu, Qt::LeftButton, {}, at);
+            wait();
+            return;
+        }
+    }
+    fail(entry + QStringLiteral(" can't be chosen"));
+    menu.close();
 }
 
 void User::during(const std::function<void()>& opens, const std::function<void()>& inside) const {

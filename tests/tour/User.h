@@ -6,7 +6,7 @@
 
 #include <functional>
 
-class QAction;
+class QMenu;
 
 /// A person at the screen: works the program's real windows with mouse and keys and takes pictures
 /// of the screen. Whatever is not there when it is looked for ends the tour with a message.
@@ -37,11 +37,17 @@ public:
     /// Does something that opens a window or pop-up, and acts in it while it is in front.
     void during(const std::function<void()>& opens, const std::function<void()>& inside) const;
 
+    /// Does something that opens a pop-up menu and chooses an entry of it by its name, after a
+    /// picture where one is named.
+    void choosePopUp(const std::function<void()>& opens, const QString& entry,
+                     const QString& picture = {});
+
     bool failed() const { return failed_; }
     void fail(const QString& what) const;
 
 private:
     static QWidget* front();
+    void chooseEntry(QMenu& menu, const QString& entry) const;
 
     QString folder_;
     int photos_ = 0;
