@@ -24,8 +24,6 @@ add_compile_options(-ffp-contract=off)
 add_compile_definitions(QT_NO_FOREACH)
 
 if(KAART_SANITIZE)
-    # With sanitizers GCC warns of variables that its own checks have made look uninitialized.
-    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -O1
-                        -Wno-maybe-uninitialized)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -O1)
     add_link_options(-fsanitize=address,undefined)
 endif()

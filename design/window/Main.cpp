@@ -115,7 +115,8 @@ void Main::buildPanels() {
 void Main::connectControls() {
     connectColourSliders(*inside_, design_);
     connectParameterSliders(*inside_, design_);
-    const auto onCheck = [this](const char* name, const char* caption, auto mark) {
+    const auto onCheck = [this](const char* name, const char* caption,
+                                void (Canvas::*mark)(bool)) {
         auto& check = control<QCheckBox>(*inside_, name);
         connect(&check, &QCheckBox::toggled, this, [this, &check, caption, mark](bool on) {
             const QString state = on ? QStringLiteral(" Aan") : QStringLiteral(" Uit");
