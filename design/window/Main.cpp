@@ -45,6 +45,13 @@ constexpr std::array notYet = {
 /// Checks that only certain tools switch on.
 constexpr std::array toolChecks = {"Check2", "Check3", "Check4"};
 
+/// Has a check say whether it is on: "Lineaal Aan", "Lineaal Uit".
+void showState(QCheckBox& check, const QString& caption) {
+    QObject::connect(&check, &QCheckBox::toggled, &check, [&check, caption](bool on) {
+        check.setText(caption + (on ? QStringLiteral(" Aan") : QStringLiteral(" Uit")));
+    });
+}
+
 } // namespace
 
 const std::span<const Main::Command> Main::commands = [] {
@@ -115,17 +122,12 @@ void Main::buildPanels() {
 void Main::connectControls() {
     connectColourSliders(*inside_, design_);
     connectParameterSliders(*inside_, design_);
-    const auto onCheck = [this](const char* name, const char* caption,
-                                void (Canvas::*mark)(bool)) {
-        auto& check = control<QCheckBox>(*inside_, name);
-        connect(&check, &QCheckBox::toggled, this, [this, &check, caption, mark](bool on) {
-            const QString state = on ? QStringLiteral(" Aan") : QStringLiteral(" Uit");
-            check.setText(QString::fromUtf8(caption) + state);
-            (canvas_->*mark)(on);
-        });
-    };
-    onCheck("Check1", "Tekenkruis", &Canvas::showCrossHair);
-    onCheck("Check5", "Lineaal", &Canvas::showRulers);
+    showState(control<QCheckBox>(*inside_, "Check1"), QStringLiteral("Tekenkruis"));
+    showState(control<QCheckBox>(*inside_, "Check5"), QStringLiteral("Lineaal"));
+    connect(&control<QCheckBox>(*inside_, "Check1"), &QCheckBox::toggled, canvas_,
+            &Canvas::showCrossHair);
+    connect(&control<QCheckBox>(*inside_, "Check5"), &QCheckBox::toggled, canvas_,
+            &Canvas::showRulers);
     connect(&control<QCheckBox>(*inside_, "Check2"), &QCheckBox::toggled, this,
             [this](bool on) { design_.VormKnippen = on; });
     connect(&control<QCheckBox>(*inside_, "Check3"), &QCheckBox::toggled, this,
