@@ -3,6 +3,7 @@
 #include "output/window/AfdrukForm.h"
 #include "output/window/OpenForm.h"
 #include "output/window/SaveForm.h"
+#include "pictures/window/CopyDialog.h"
 
 #include <array>
 
@@ -19,6 +20,7 @@ constexpr std::array table = {
     WindowRow{"FileOpen", open<OpenForm>},
     WindowRow{"FileSave", open<SaveForm>},
     WindowRow{"FilePrint", open<AfdrukForm>},
+    WindowRow{"SelectieCopy(7)", open<CopyDialog>},
 };
 
 } // namespace
