@@ -2,6 +2,7 @@
 
 #include "design/session/Overlays.h"
 #include "design/session/ProgramFolders.h"
+#include "design/session/TextStyle.h"
 #include "design/surface/PixelSurface.h"
 
 #include <QObject>
@@ -61,11 +62,14 @@ public:
     ColorRef Vulkleur = RGB(200, 250, 0);
     bool GummenInVulkleur = false; ///< Check3
     bool VormKnippen = false;      ///< Check2
+    TextStyle Tekst;
 
     // Marks above the canvas; they never reach Image.
     Overlay Layer;
     Overlay Gom;
     LabelOverlay XYcor;
+    TextOverlay TextLabel;  ///< the text line, which follows the mouse
+    TextOverlay TextLabel2; ///< the long text, which is dragged
 
     using Change = std::function<void(PixelSurface& pic)>;
     /// The gate: undo copy, the change, Gewijzigd, refresh.
@@ -94,7 +98,7 @@ public:
 
     void setTekenkleur(ColorRef colour);
     void setVulkleur(ColorRef colour);
-    /// To be called after Layer, Gom or XYcor were changed.
+    /// To be called after one of these marks was changed.
     void showOverlays() { emit overlaysChanged(); }
     void showFloat() { emit floatChanged(); }
 

@@ -1,5 +1,7 @@
 #include "design/tools/CanvasMouse.h"
 
+#include "design/tools/TextPlacing.h"
+
 namespace kaart {
 
 namespace {
@@ -29,6 +31,7 @@ void CanvasMouse::press(Button button, QPoint at) {
 }
 
 void CanvasMouse::move(QPoint at) {
+    moveTextLine(design_, at);
     moveGom(at);
     if (dragging()) {
         drag_->move(design_, at);
@@ -38,6 +41,14 @@ void CanvasMouse::move(QPoint at) {
 }
 
 void CanvasMouse::release(Button button, QPoint at) {
+    if (design_.TekstHangt) {
+        // Kept: any button places it, and nothing else of a release happens, not even that of a
+        // tool which was chosen meanwhile.
+        drag_ = nullptr;
+        hideMarks(false);
+        placeTextLine(design_, at);
+        return;
+    }
     if (button != Button::Left || !dragging()) {
         return;
     }
@@ -46,11 +57,15 @@ void CanvasMouse::release(Button button, QPoint at) {
     if (design_.TekenModus != noToolMode) {
         design_.Gewijzigd = true;
     }
-    design_.Layer.Visible = tool.keepsLayer();
+    hideMarks(tool.keepsLayer());
+    tool.release(design_, at);
+}
+
+void CanvasMouse::hideMarks(bool butLayer) {
+    design_.Layer.Visible = butLayer;
     design_.Gom.Visible = false;
     design_.XYcor.Visible = false;
     design_.showOverlays();
-    tool.release(design_, at);
 }
 
 void CanvasMouse::moveGom(QPoint at) {

@@ -1,6 +1,7 @@
 #include "design/tools/Tool.h"
 
 #include "design/tools/DrawingTools.h"
+#include "design/tools/ShapeTool.h"
 
 #include <algorithm>
 #include <array>
@@ -31,6 +32,9 @@ const std::array tools = {
 } // namespace
 
 const Tool& toolFor(int tekenModus) {
+    if (const Tool* shape = shapeTool(tekenModus)) {
+        return *shape;
+    }
     const auto* found = std::find_if(tools.begin(), tools.end(), [tekenModus](const auto& row) {
         return row.tekenModus == tekenModus;
     });

@@ -1,0 +1,60 @@
+#include "design/tools/TextLibrary.h"
+
+#include "design/surface/TextFile.h"
+
+#include <QDir>
+
+#include <algorithm>
+
+namespace kaart {
+
+namespace {
+
+const QLatin1String lineEnd("\r\n");
+
+QString libraryFolder(const ProgramFolders& folders) {
+    return folders.in(QStringLiteral("Data"));
+}
+
+} // namespace
+
+QStringList textFileNames(const ProgramFolders& folders) {
+    return QDir(libraryFolder(folders))
+        .entryList({QStringLiteral("*.txt")}, QDir::Files | QDir::Hidden,
+                   QDir::Name | QDir::IgnoreCase);
+}
+
+std::optional<QString> textPath(const ProgramFolders& folders, const QString& name) {
+    const auto leadsOut = [](QChar letter) {
+        return letter == QLatin1Char('/') || letter == QLatin1Char('\\') || letter.isNull();
+    };
+    if (name.isEmpty() || std::any_of(name.begin(), name.end(), leadsOut)) {
+        return std::nullopt;
+    }
+    return libraryFolder(folders) + QLatin1Char('/') + name + QStringLiteral(".txt");
+}
+
+std::optional<QString> LaadTekst(const ProgramFolders& folders, const QString& file) {
+    const auto content = readTextFile(libraryFolder(folders) + QLatin1Char('/') + file);
+    if (!content) {
+        return std::nullopt;
+    }
+    QString text;
+    for (const QString& line : splitLines(*content)) {
+        for (const QString& piece : line.split(QLatin1Char(','))) {
+            text += piece + lineEnd;
+        }
+    }
+    return text;
+}
+
+bool BewaarTekst(const ProgramFolders& folders, const QString& name, const QStringList& lines) {
+    const auto path = textPath(folders, name);
+    QString content;
+    for (const QString& line : lines) {
+        content += line + lineEnd;
+    }
+    return path && QDir().mkpath(libraryFolder(folders)) && writeTextFile(*path, content);
+}
+
+} // namespace kaart
