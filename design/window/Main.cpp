@@ -11,10 +11,17 @@
 #include "design/tools/Clock.h"
 #include "design/window/AboutForm.h"
 #include "design/window/Canvas.h"
+#include "design/window/FloatPanel.h"
+#include "design/window/FramePanel.h"
+#include "design/window/LongTextPanel.h"
+#include "design/window/Magnifier.h"
 #include "design/window/MenuTable.h"
 #include "design/window/PanelTable.h"
+#include "design/window/SelectionMenu.h"
+#include "design/window/ShapeMenu.h"
 #include "design/window/Sliders.h"
 #include "design/window/StartValues.h"
+#include "design/window/TextLinePanel.h"
 #include "design/window/ToolButtons.h"
 
 #include <QAction>
@@ -37,9 +44,8 @@ constexpr int canvasTop = 210;
 
 /// Controls whose work is still to come; each leaves this list with the tool that it serves.
 constexpr std::array notYet = {
-    "PlaatsKnop",   "PlaatsKnop2",  "List1",        "AlignKnop(0)", "AlignKnop(1)",
-    "AlignKnop(2)", "AlignKnop(3)", "AlignKnop(4)", "LoepScroll",   "LijstScroll",
-    "LijstKnop",    "StartKnop",    "ScoreKnop",
+    "StartKnop",
+    "ScoreKnop",
 };
 
 /// Checks that only certain tools switch on.
@@ -61,7 +67,6 @@ const std::span<const Main::Command> Main::commands = [] {
         Command{"EditUndo", [](Main& window) { window.design_.EditUndo(); }},
         Command{"Richting(1)", [](Main& window) { window.zetRichting(1); }},
         Command{"Richting(2)", [](Main& window) { window.zetRichting(2); }},
-        Command{"SelectieCopy(0)", [](Main& window) { window.design_.takeUndo(); }},
     };
     return std::span<const Command>(table);
 }();
@@ -74,10 +79,17 @@ Main::Main(Design& design, WindowTable windows) : design_(design), inside_(new Q
     inside_->setObjectName(QStringLiteral("Inhoud"));
     setCentralWidget(inside_);
     buildMenus(*this);
+    new SelectionMenu(*this, design_);
     connectMenus(windows);
     buildPanels();
+    new ShapeMenu(*this, design_);
     new ToolButtons(*this, design_, windows);
     connectControls();
+    new FramePanel(*this, design_);
+    new Magnifier(*this, design_);
+    new TextLinePanel(*this, design_);
+    new LongTextPanel(*this, design_);
+    new FloatPanel(*this, design_);
     fillControls(*inside_);
     showOrientation();
     loadSettings();
@@ -138,7 +150,6 @@ void Main::connectControls() {
             [this] { AboutForm(this).exec(); });
     connect(canvas_, &Canvas::mouseMoved, this, &Main::showMouse);
     connect(&design_, &Design::orientationChanged, this, &Main::showOrientation);
-    connect(&design_, &Design::selectionMade, this, &Main::popUpSelection);
     connect(&design_, &Design::hintChanged, this, [this](const QString& text, ColorRef colour) {
         auto& label = control<QLabel>(*inside_, "InfoLabel");
         label.setText(text);
@@ -229,12 +240,6 @@ void Main::showOrientation() {
     placePanels(*inside_, landscape);
     control<QAction>(*this, "Richting", 1).setChecked(!landscape);
     control<QAction>(*this, "Richting", 2).setChecked(landscape);
-}
-
-void Main::popUpSelection() {
-    control<QMenu>(*this, "CopySelectie").exec(QCursor::pos());
-    design_.Layer.Visible = false;
-    design_.showOverlays();
 }
 
 void Main::showMouse(const QPoint& at) {

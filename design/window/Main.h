@@ -41,7 +41,6 @@ private:
     bool saveSettings() const;
     void zetRichting(int kind);
     void showOrientation();
-    void popUpSelection();
     void showMouse(const QPoint& at);
     void tickClock();
 

@@ -204,6 +204,121 @@ void lieDown(User& user, Design& design) {
     print(user, design, 1, QStringLiteral("Vouwkaart-liggend.pdf"));
 }
 
+void drawShapes(User& user, Design& design) {
+    user.menu(QStringLiteral("Orientation"), QStringLiteral("Richting(1)"));
+    user.slide(QStringLiteral("HScroll2"), 3);
+    struct Figure {
+        const char* entry;
+        QPoint from;
+        QPoint to;
+        ColorRef colour;
+    };
+    const std::array figures = {
+        Figure{"Vormen(2)", {30, 30}, {410, 150}, RGB(138, 79, 125)},
+        Figure{"Vormen(8)", {40, 330}, {150, 470}, RGB(228, 87, 46)},
+        Figure{"Vormen(13)", {170, 330}, {280, 470}, RGB(46, 134, 171)},
+        Figure{"Vormen(3)", {300, 340}, {400, 460}, RGB(91, 154, 61)},
+    };
+    QWidget& pic = user.find(QStringLiteral("Pic"));
+    for (const Figure& figure : figures) {
+        pickColour(user, "HScroll1", figure.colour);
+        const bool first = &figure == &figures.front();
+        user.choosePopUp([&] { user.click(QStringLiteral("TekenKnop(2)")); },
+                         QString::fromUtf8(figure.entry),
+                         first ? QStringLiteral("vormen-menu") : QString());
+        user.drag(pic, {figure.from, (figure.from + figure.to) / 2, figure.to});
+    }
+    user.photo(QStringLiteral("vormen"));
+    if (design.Pic().Point(30, 90) != RGB(138, 79, 125)) {
+        user.fail(QStringLiteral("the rounded rectangle is not there"));
+    }
+}
+
+void placeTexts(User& user, Design& design) {
+    QWidget& pic = user.find(QStringLiteral("Pic"));
+    const auto place = [&](const QString& text, const char* size, QPoint at, const char* picture) {
+        user.fill(QStringLiteral("Text1"), text);
+        user.choose(QStringLiteral("Combo2"), QString::fromUtf8(size));
+        user.click(QStringLiteral("PlaatsKnop"));
+        QTest::mouseMove(&pic, at);
+        if (picture != nullptr) {
+            user.photo(QString::fromUtf8(picture));
+        }
+        user.clickAt(pic, at);
+    };
+    pickColour(user, "HScroll1", RGB(138, 79, 125));
+    user.click(QStringLiteral("BoldCheck"));
+    user.click(QStringLiteral("SchaduwCheck"));
+    place(QStringLiteral("Hoera! Feest!"), "38", {60, 130}, "tekst-hangt");
+    user.click(QStringLiteral("SchaduwCheck"));
+    user.click(QStringLiteral("OpenCheck"));
+    place(QStringLiteral("Kom je ook?"), "34", {100, 250}, nullptr);
+    user.click(QStringLiteral("OpenCheck"));
+    user.click(QStringLiteral("DiagonalCheck"));
+    user.choose(QStringLiteral("Combo3"), QStringLiteral("15"));
+    place(QStringLiteral("zaterdag 12 april"), "18", {230, 300}, nullptr);
+    user.click(QStringLiteral("DiagonalCheck"));
+    user.click(QStringLiteral("BoldCheck"));
+    user.photo(QStringLiteral("tekstregels"));
+    if (design.TekstHangt) {
+        user.fail(QStringLiteral("a text still hangs"));
+    }
+}
+
+void placePoem(User& user, Design& design) {
+    user.choose(QStringLiteral("Combo2"), QStringLiteral("14"));
+    user.click(QStringLiteral("TekenKnop(6)"));
+    user.click(QStringLiteral("AlignKnop(3)"));
+    auto* list = qobject_cast<QListWidget*>(&user.find(QStringLiteral("List1")));
+    if (list == nullptr || list->count() == 0) {
+        user.fail(QStringLiteral("the text library is empty"));
+        return;
+    }
+    user.doubleClickAt(*list->viewport(), list->visualItemRect(list->item(0)).center());
+    user.click(QStringLiteral("AlignKnop(1)"));
+    user.click(QStringLiteral("PlaatsKnop2"));
+    user.carry(user.find(QStringLiteral("TextLabel2")), {110, 490});
+    user.photo(QStringLiteral("lange-tekst"));
+    user.clickAt(user.find(QStringLiteral("TextLabel2")), {20, 20}, Qt::RightButton);
+    user.click(QStringLiteral("TekenKnop(66)"));
+    if (design.TekstHangt) {
+        user.fail(QStringLiteral("the poem still hangs"));
+    }
+}
+
+void copyAPiece(User& user, Design& design) {
+    user.click(QStringLiteral("TekenKnop(5)"));
+    QWidget& pic = user.find(QStringLiteral("Pic"));
+    user.choosePopUp(
+        [&] {
+            user.drag(pic, {{35, 325}, {100, 400}, {155, 475}});
+        },
+        QStringLiteral("SelectieCopy(2)"), QStringLiteral("selectie-menu"));
+    QWidget& clip = user.find(QStringLiteral("ClipPic"));
+    user.carry(clip, {290, 480});
+    user.choosePopUp(
+        [&] {
+            user.clickAt(clip, {50, 50}, Qt::RightButton);
+        },
+        QStringLiteral("Plak(5)"), QStringLiteral("plakken"));
+    user.photo(QStringLiteral("geplakt"));
+    if (design.ClipPic.Visible) {
+        user.fail(QStringLiteral("the picture still floats"));
+    }
+}
+
+void frameIt(User& user, Design&) {
+    user.click(QStringLiteral("TekenKnop(9)"));
+    user.slide(QStringLiteral("LijstScroll"), 2);
+    user.click(QStringLiteral("LijstKnop"));
+    user.slide(QStringLiteral("LoepScroll"), 4);
+    QCursor::setPos(user.find(QStringLiteral("Pic")).mapToGlobal(QPoint(95, 380)));
+    user.wait(200);
+    user.photo(QStringLiteral("lijst-en-loep"));
+    user.slide(QStringLiteral("LoepScroll"), 0);
+    user.click(QStringLiteral("TekenKnop(55)"));
+}
+
 void aboutAndGoodbye(User& user, Design& design) {
     user.during([&] { user.click(QStringLiteral("AboutKnop")); },
                 [&] {
@@ -234,6 +349,11 @@ constexpr std::array table = {
     Chapter{"a new card, and the old one again", newAndOpen},
     Chapter{"printing", printSheets},
     Chapter{"a lying card", lieDown},
+    Chapter{"shapes", drawShapes},
+    Chapter{"lines of text", placeTexts},
+    Chapter{"a poem from the library", placePoem},
+    Chapter{"a piece copied", copyAPiece},
+    Chapter{"a frame, and a closer look", frameIt},
     Chapter{"goodbye", aboutAndGoodbye},
 };
 

@@ -75,6 +75,8 @@ void User::clickAt(QWidget& widget, QPoint at, Qt::MouseButton button) const {
 }
 
 void User::doubleClickAt(QWidget& widget, QPoint at) const {
+    // A view takes a double click only for the row that was pressed before.
+    QTest::mouseClick(&widget, Qt::LeftButton, {}, at);
     QTest::mouseDClick(&widget, Qt::LeftButton, {}, at);
     wait(20);
 }
@@ -99,6 +101,28 @@ void User::drag(QWidget& widget, const QList<QPoint>& path) const {
     }
     QTest::mouseRelease(&widget, Qt::LeftButton, {}, path.last());
     wait(20);
+}
+
+void User::carry(QWidget& widget, QPoint by) const {
+    constexpr int steps = 10;
+    const QPoint hold = widget.rect().center();
+    QTest::mousePress(&widget, Qt::LeftButton, {}, hold);
+    for (int i = 0; i < steps; ++i) {
+        const QPoint at = hold + by * (i + 1) / steps - by * i / steps;
+        QMouseEvent move(QEvent::MouseMove, at, widget.mapToGlobal(at), Qt::NoButton,
+                         Qt::LeftButton, {});
+        QApplication::sendEvent(&widget, &move);
+        wait(2);
+    }
+    QTest::mouseRelease(&widget, Qt::LeftButton, {}, hold);
+    wait(20);
+}
+
+void User::fill(const QString& name, const QString& text) const {
+    QWidget& field = find(name);
+    field.setFocus();
+    QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(&field, text);
 }
 
 void User::type(const QString& text) const {

@@ -25,7 +25,11 @@ public:
     void clickAt(QWidget& widget, QPoint at, Qt::MouseButton button = Qt::LeftButton) const;
     void doubleClickAt(QWidget& widget, QPoint at) const;
     void drag(QWidget& widget, const QList<QPoint>& path) const;
+    /// Drags a widget that follows the mouse.
+    void carry(QWidget& widget, QPoint by) const;
     void type(const QString& text) const;
+    /// Puts a text in the place of what a field holds.
+    void fill(const QString& name, const QString& text) const;
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const;
     /// Sets a slider with the mouse and the keys.
     void slide(const QString& name, int value) const;

@@ -23,6 +23,9 @@ int main(int argc, char** argv) {
     const kaart::ProgramFolders work{folder + QStringLiteral("/werk"),
                                      folder + QStringLiteral("/werk/Afbeeldingen")};
     QDir().mkpath(work.pictures);
+    for (const QString& library : {QStringLiteral("/Data"), QStringLiteral("/Lijsten")}) {
+        kaart::seedFolder(QCoreApplication::applicationDirPath() + library, work.program + library);
+    }
 
     kaart::Design design(work);
     kaart::Main window(design, kaart::windowTable());

@@ -1,0 +1,152 @@
+#include "design/window/Magnifier.h"
+
+#include "controls/ControlTable.h"
+#include "design/window/PanelTable.h"
+#include "design/window/StartValues.h"
+#include "tests/support/Pictures.h"
+#include "tests/support/Test.h"
+
+using namespace kaart;
+
+namespace {
+
+/// A screen on which every pixel has a colour of its own place.
+struct FakeGrab final : ScreenGrab {
+    bool isLive() const override { return true; }
+    void start() override { ++started; }
+    void stop() override { ++stopped; }
+    QPoint mouse() const override { return at; }
+    QImage grab(const QRect& pixels) const override {
+        asked = pixels;
+        if (blind) {
+            return {};
+        }
+        QImage part(pixels.size(), QImage::Format_RGB32);
+        for (int y = 0; y < part.height(); ++y) {
+            for (int x = 0; x < part.width(); ++x) {
+                part.setPixel(x, y, colourAt(pixels.x() + x, pixels.y() + y));
+            }
+        }
+        return part;
+    }
+    static QRgb colourAt(int x, int y) { return qRgb(x & 255, y & 255, 9); }
+
+    QPoint at{400, 300};
+    bool blind = false;
+    int started = 0;
+    int stopped = 0;
+    mutable QRect asked;
+};
+
+/// The window's controls with a magnifier that looks at the fake screen.
+struct Desk {
+    Desk() {
+        buildControls(window, panelTable());
+        auto made = std::make_unique<FakeGrab>();
+        screen = made.get();
+        magnifier = new Magnifier(window, design, std::move(made));
+        QObject::connect(&design, &Design::hintChanged, &window,
+                         [this](const QString& text) { hint = text; });
+        window.show();
+    }
+    Fader& slider() { return control<Fader>(window, "LoepScroll"); }
+    QString label() const { return control<QLabel>(window, "Label25").text(); }
+    QImage picture() const { return control<SurfaceView>(window, "LoepPic").Image(); }
+    bool running() const { return control<QTimer>(window, "LoepTimer").isActive(); }
+    bool crossed() const {
+        return control<QWidget>(window, "Line1").isVisible() &&
+               control<QWidget>(window, "Line2").isVisible();
+    }
+
+    Design design{{}};
+    QWidget window;
+    FakeGrab* screen = nullptr;
+    Magnifier* magnifier = nullptr;
+    QString hint;
+};
+
+} // namespace
+
+class MagnifierTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void LooksAtTheScreenRoundTheMouse_data() {
+        QTest::addColumn<int>("z");
+        QTest::addColumn<QRect>("asked");
+        // The screen pixel under the middle of the cross.
+        QTest::addColumn<QPoint>("sampled");
+        QTest::newRow("1") << 1 << QRect(320, 232, 160, 136) << QPoint(399, 297);
+        QTest::newRow("2") << 2 << QRect(360, 266, 80, 68) << QPoint(399, 298);
+        QTest::newRow("3: 53.3 and 45.3") << 3 << QRect(374, 278, 53, 45) << QPoint(400, 299);
+        QTest::newRow("7: 22.9 and 19.4") << 7 << QRect(389, 291, 23, 19) << QPoint(400, 300);
+        QTest::newRow("10: 16 and 13.6") << 10 << QRect(392, 293, 16, 14) << QPoint(399, 299);
+    }
+    void LooksAtTheScreenRoundTheMouse() {
+        QFETCH(int, z);
+        QFETCH(QRect, asked);
+        QFETCH(QPoint, sampled);
+        Desk desk;
+        desk.slider().setValue(z);
+        desk.magnifier->tick();
+        QCOMPARE(desk.screen->asked, asked);
+        const QRgb last = FakeGrab::colourAt(asked.right(), asked.bottom());
+        QCOMPARE(desk.picture().pixel(159, 135), last);
+        const QRgb middle = FakeGrab::colourAt(sampled.x(), sampled.y());
+        QCOMPARE(desk.picture().pixel(79, 65), middle);
+        QCOMPARE(desk.label(), QStringLiteral("RGB : %1, %2, 9 / #%3")
+                                   .arg(qRed(middle))
+                                   .arg(qGreen(middle))
+                                   .arg(QColor(middle).name().mid(1).toUpper()));
+    }
+
+    void TheCrossStandsAboveThePictureOnly() {
+        Desk desk;
+        desk.slider().setValue(1);
+        QVERIFY(desk.crossed());
+        desk.magnifier->tick();
+        comparePictures(desk.picture(), desk.screen->grab(QRect(320, 232, 160, 136)));
+        QCOMPARE(control<QWidget>(desk.window, "Line1").geometry(), QRect(79, 49, 1, 33));
+        QCOMPARE(control<QWidget>(desk.window, "Line2").geometry(), QRect(60, 65, 39, 1));
+    }
+
+    void EveryWayToTurnItOffStopsAll_data() {
+        QTest::addColumn<std::function<void(Desk&)>>("turnOff");
+        using TurnOff = std::function<void(Desk&)>;
+        QTest::newRow("slider") << TurnOff([](Desk& desk) { desk.slider().setValue(0); });
+        QTest::newRow("reset") << TurnOff([](Desk& desk) { resetControls(desk.window); });
+        QTest::newRow("closing") << TurnOff([](Desk& desk) { desk.window.close(); });
+    }
+    void EveryWayToTurnItOffStopsAll() {
+        QFETCH(std::function<void(Desk&)>, turnOff);
+        Desk desk;
+        QVERIFY(!desk.running() && !desk.crossed());
+        desk.slider().setValue(4);
+        desk.slider().setValue(5);
+        QCOMPARE(desk.screen->started, 1); // once per turning on
+        QVERIFY(desk.running());
+        desk.magnifier->tick();
+        turnOff(desk);
+        QVERIFY(!desk.running() && !desk.crossed());
+        QCOMPARE(desk.screen->stopped, 1);
+        QCOMPARE(desk.label(), QStringLiteral("RGB :"));
+        desk.magnifier->tick();
+        comparePictures(desk.picture(), PixelSurface(160, 136).Image());
+    }
+
+    void AFrozenPictureIsAnnouncedAndARefusalTurnsItOff() {
+        Desk desk;
+        desk.slider().setValue(3);
+        desk.screen->blind = true;
+        desk.magnifier->tick();
+        QCOMPARE(desk.label(), QStringLiteral("RGB :"));
+        emit desk.screen->frozen();
+        QVERIFY(desk.hint.contains(QStringLiteral("stilstaand beeld")) && desk.running());
+        emit desk.screen->refused();
+        QVERIFY(desk.hint.contains(QStringLiteral("niet zien")) && !desk.running());
+        QCOMPARE(desk.slider().value(), 0);
+    }
+};
+
+KAART_TEST(MagnifierTest)
+#include "MagnifierTest.moc"
