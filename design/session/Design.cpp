@@ -87,6 +87,11 @@ void Design::ToonInfo() {
     ToonInfo(QStringLiteral("Informatie..."), 0, 90, 0);
 }
 
+void Design::setTekenModus(int mode) {
+    TekenModus = mode;
+    emit toolChanged();
+}
+
 void Design::setTekenkleur(ColorRef colour) {
     Tekenkleur = colour;
     emit coloursChanged();

@@ -96,6 +96,8 @@ public:
     void ToonInfo(const QString& text, int red, int green, int blue);
     void ToonInfo(); ///< the rest state
 
+    /// Sets TekenModus, and tells who shows the tool in hand.
+    void setTekenModus(int mode);
     void setTekenkleur(ColorRef colour);
     void setVulkleur(ColorRef colour);
     /// To be called after one of these marks was changed.
@@ -111,6 +113,7 @@ signals:
     /// A selection rectangle stands in Layer, for its commands.
     void selectionMade();
     void coloursChanged();
+    void toolChanged();
 
 private:
     void show();

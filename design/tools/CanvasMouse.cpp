@@ -19,7 +19,8 @@ void CanvasMouse::press(Button button, QPoint at) {
     design_.BeginY = at.y();
     moveGom(at);
     design_.setDrawWidth(design_.LijnDikte);
-    if (button == Button::Left) {
+    // While a text hangs, the release places it and would end no drag.
+    if (button == Button::Left && !design_.TekstHangt) {
         drag_ = &toolFor(design_.TekenModus);
         drag_->press(design_, at);
     } else if (button == Button::Right) {

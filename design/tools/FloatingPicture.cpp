@@ -70,7 +70,7 @@ void handOver(Design& design, const QImage& picture, const QString& hint, bool t
         return;
     }
     if (takesMode50) {
-        design.TekenModus = 50;
+        design.setTekenModus(50);
     }
     design.ClipPic.setPicture(picture);
     design.ClipPic.Top = 0;

@@ -134,7 +134,7 @@ bool hangTextLine(Design& design) {
     if (design.Tekst.Text.trimmed().isEmpty()) {
         return false;
     }
-    design.TekenModus = design.Tekst.Diagonal ? slopingTextMode : textLineMode;
+    design.setTekenModus(design.Tekst.Diagonal ? slopingTextMode : textLineMode);
     design.takeUndo();
     design.Gewijzigd = true;
     design.ToonInfo(QStringLiteral("Linkermuisknop is plaatsen van de tekst op het ontwerp."), 90,
@@ -167,7 +167,7 @@ void placeTextLine(Design& design, QPoint mouse) {
 }
 
 void hangLongText(Design& design, const QStringList& lines) {
-    design.TekenModus = longTextMode;
+    design.setTekenModus(longTextMode);
     design.Gewijzigd = true;
     design.ToonInfo(QStringLiteral("Beweeg de tekst met de muis, rechts klikken is plaatsen."), 170,
                     0, 0);

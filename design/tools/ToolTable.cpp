@@ -14,7 +14,7 @@ constexpr std::array table = {
     ToolRow{1, 1, " Rechte lijnen tekenen ", "rechte-lijn", ToolClick::Tool, 1,
             "Tekenen van rechte lijnen.", "", none},
     ToolRow{2, 2, " Verschillende vormen tekenen ", "vormen", ToolClick::PopUp, none,
-            "Tekenen van verschillende vormen.", "Shapes", none},
+            "Tekenen van verschillende vormen.", "Shapes", none, true},
     ToolRow{3, 3, " Vullen met de vulkleur ", "vullen", ToolClick::Tool, 18,
             "Vullen van objecten met de tekenkleur.", "", none},
     ToolRow{4, 4, " Gedeelte uit ontwerp uitgummen ", "gum", ToolClick::Tool, 19,

@@ -22,7 +22,8 @@ struct ToolRow {
     int tekenModus;
     const char* hint; ///< for InfoLabel; empty leaves it
     const char* opens;
-    int partner; ///< index of the button on the same place, -1 for none
+    int partner;              ///< index of the button on the same place, -1 for none
+    bool holdsShapes = false; ///< its pop-up chooses a figure as the tool
 };
 
 /// All buttons, in the order of their places; of a pair the one shown at the start comes first.

@@ -1,9 +1,7 @@
 #include "design/window/ShapeMenu.h"
 
 #include "controls/ControlTable.h"
-#include "controls/VistaButton.h"
 #include "design/tools/ShapeTable.h"
-#include "design/tools/ToolTable.h"
 #include "design/window/MenuTable.h"
 
 #include <QAction>
@@ -27,7 +25,7 @@ ShapeMenu::ShapeMenu(QMainWindow& window, Design& design)
 }
 
 void ShapeMenu::choose(int index) {
-    design_.TekenModus = index + 1;
+    design_.setTekenModus(index + 1);
     // Kept: the last entry is left out, so its mark stays once it is set.
     for (int other = firstShape; other < lastShape(); ++other) {
         control<QAction>(window_, "Vormen", other).setChecked(false);
@@ -35,9 +33,6 @@ void ShapeMenu::choose(int index) {
     control<QAction>(window_, "Vormen", index).setChecked(true);
     const ShapeRow& shape = shapeTable()[static_cast<std::size_t>(index - firstShape)];
     control<QCheckBox>(window_, "Check2").setEnabled(shape.canBeCut);
-    for (const ToolRow& tool : toolTable()) {
-        control<VistaButton>(window_, "TekenKnop", tool.index).setChecked(false);
-    }
 }
 
 } // namespace kaart

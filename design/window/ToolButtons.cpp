@@ -3,6 +3,7 @@
 #include "controls/ControlTable.h"
 #include "controls/Icons.h"
 #include "controls/VistaButton.h"
+#include "design/tools/ShapeTool.h"
 #include "design/tools/ToolTable.h"
 #include "design/window/MenuTable.h"
 
@@ -30,13 +31,6 @@ const char* rivalPanel(const ToolRow& row) {
         ->opens;
 }
 
-/// Shows which button's tool the mouse holds.
-void markTool(QWidget& window, const ToolRow& chosen) {
-    for (const ToolRow& row : toolTable()) {
-        control<VistaButton>(window, "TekenKnop", row.index).setChecked(&row == &chosen);
-    }
-}
-
 bool hasEnabledEntry(const QMenu& menu) {
     const QList<QAction*> entries = menu.actions();
     return std::any_of(entries.begin(), entries.end(), [](const QAction* entry) {
@@ -51,6 +45,7 @@ ToolButtons::ToolButtons(QWidget& window, Design& design, WindowTable windows)
     for (const ToolRow& row : toolTable()) {
         build(row);
     }
+    connect(&design_, &Design::toolChanged, this, &ToolButtons::markTool);
 }
 
 void ToolButtons::build(const ToolRow& row) {
@@ -59,7 +54,7 @@ void ToolButtons::build(const ToolRow& row) {
     button->setToolTip(QString::fromUtf8(row.toolTip));
     button->setIcon(icon(QString::fromUtf8(row.icon)));
     button->setIconSize(iconSize);
-    button->setCheckable(row.click == ToolClick::Tool);
+    button->setCheckable(row.click == ToolClick::Tool || row.holdsShapes);
     place(*button, firstLeft + step * row.place, top, side, side);
     // Of a pair the button comes first whose panel is not shown yet.
     button->setVisible(row.partner < 0 || row.index < row.partner);
@@ -71,6 +66,14 @@ void ToolButtons::build(const ToolRow& row) {
     connect(button, &QAbstractButton::clicked, this, [this, &row] { click(row); });
 }
 
+void ToolButtons::markTool() {
+    for (const ToolRow& row : toolTable()) {
+        const bool inHand = row.holdsShapes ? shapeTool(design_.TekenModus) != nullptr
+                                            : row.tekenModus == design_.TekenModus;
+        control<VistaButton>(window_, "TekenKnop", row.index).setChecked(inHand);
+    }
+}
+
 void ToolButtons::click(const ToolRow& row) {
     control<QCheckBox>(window_, "Check2").setEnabled(false);
     control<QCheckBox>(window_, "Check3").setEnabled(row.index == eraserButton);
@@ -80,10 +83,10 @@ void ToolButtons::click(const ToolRow& row) {
     const auto& button = control<VistaButton>(window_, "TekenKnop", row.index);
     switch (row.click) {
     case ToolClick::Tool:
-        design_.TekenModus = row.tekenModus;
-        markTool(window_, row);
+        design_.setTekenModus(row.tekenModus);
         break;
     case ToolClick::PopUp:
+        markTool(); // the click itself has not changed the tool yet
         control<QMenu>(window_, row.opens).exec(button.mapToGlobal(button.rect().bottomLeft()));
         break;
     case ToolClick::Window:

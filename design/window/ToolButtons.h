@@ -21,6 +21,8 @@ public:
 
 private:
     void build(const ToolRow& row);
+    /// Shows which button's tool the mouse holds.
+    void markTool();
     void click(const ToolRow& row);
     void showPanel(const ToolRow& row);
 
