@@ -1,31 +1,18 @@
 // One tick of the magnifier on a real screen, with what it paints: the whole cost every 25 ms.
+#include "bench/BenchApplication.h"
 #include "controls/ControlTable.h"
 #include "design/window/Magnifier.h"
 #include "design/window/PanelTable.h"
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
-
 using namespace kaart;
 
 namespace {
 
-/// The platform's application, once, and only where the surroundings name a display.
-bool haveScreen() {
-    static int count = 1;
-    static char name[] = "kaart_bench";
-    static char* arguments[] = {name, nullptr};
-    static const bool display = qEnvironmentVariableIsSet("DISPLAY");
-    if (!display) {
-        return false;
-    }
-    static const QApplication application(count, arguments);
-    return QGuiApplication::platformName() != QLatin1String("offscreen");
-}
-
 void tick(benchmark::State& state) {
-    if (!haveScreen()) {
+    benchApplication();
+    if (QGuiApplication::platformName() == QLatin1String("offscreen")) {
         state.SkipWithError("needs a screen: xvfb-run build/release/bin/kaart_bench");
         return;
     }

@@ -1,5 +1,6 @@
 #include "output/DesignFile.h"
 
+#include "design/surface/FileList.h"
 #include "design/surface/PictureGate.h"
 
 #include <QDir>
@@ -37,10 +38,7 @@ bool isRefusedName(const QString& name) {
 }
 
 QStringList designFileNames(const DesignFolders& folders) {
-    // Hidden files too: a design may be named with a point in front.
-    return QDir(designFolder(folders))
-        .entryList({QStringLiteral("*.bmp")}, QDir::Files | QDir::Hidden,
-                   QDir::Name | QDir::IgnoreCase);
+    return fileNames(designFolder(folders), {QStringLiteral("*.bmp")});
 }
 
 bool saveDesign(const DesignFolders& folders, const QString& name, const QImage& picture) {

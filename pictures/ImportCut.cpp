@@ -1,13 +1,12 @@
 #include "pictures/ImportCut.h"
 
-#include <QDir>
+#include "design/surface/FileList.h"
 
 namespace kaart {
 
 QStringList importFileNames(const QString& folder) {
-    return QDir(folder).entryList(
-        {QStringLiteral("*.bmp"), QStringLiteral("*.gif"), QStringLiteral("*.jpg")}, QDir::Files,
-        QDir::Name | QDir::IgnoreCase);
+    return fileNames(folder,
+                     {QStringLiteral("*.bmp"), QStringLiteral("*.gif"), QStringLiteral("*.jpg")});
 }
 
 QSize importPreviewSize(const QSize& picture) {

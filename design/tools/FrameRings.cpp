@@ -2,8 +2,6 @@
 
 #include "design/surface/GraphicsCalls.h"
 
-#include <QDir>
-
 #include <algorithm>
 
 namespace kaart {
@@ -20,11 +18,6 @@ bool isRing(ColorRef colour) {
 }
 
 } // namespace
-
-QStringList frameFileNames(const QString& folder) {
-    return QDir(folder).entryList({QStringLiteral("*.fra")}, QDir::Files,
-                                  QDir::Name | QDir::IgnoreCase);
-}
 
 void TekenLijst(PixelSurface& pic, const PixelSurface& frame, int left, int top, int right,
                 int bottom) {

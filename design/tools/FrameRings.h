@@ -2,13 +2,7 @@
 
 #include "design/surface/PixelSurface.h"
 
-#include <QStringList>
-
 namespace kaart {
-
-/// The frame files (*.fra) of a folder, without regard to case and sorted so. Empty for a folder
-/// that isn't there.
-QStringList frameFileNames(const QString& folder);
 
 /// Draws the frame that a picture holds as rings from outside to inside, with the surface's own pen
 /// width. The picture's row y = 1 has the colours: x = 6 is the ring one pixel outside the box from

@@ -1,5 +1,6 @@
 #include "design/tools/TextLibrary.h"
 
+#include "design/surface/FileList.h"
 #include "design/surface/TextFile.h"
 
 #include <QDir>
@@ -19,9 +20,7 @@ QString libraryFolder(const ProgramFolders& folders) {
 } // namespace
 
 QStringList textFileNames(const ProgramFolders& folders) {
-    return QDir(libraryFolder(folders))
-        .entryList({QStringLiteral("*.txt")}, QDir::Files | QDir::Hidden,
-                   QDir::Name | QDir::IgnoreCase);
+    return fileNames(libraryFolder(folders), {QStringLiteral("*.txt")});
 }
 
 std::optional<QString> textPath(const ProgramFolders& folders, const QString& name) {

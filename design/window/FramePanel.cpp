@@ -2,6 +2,7 @@
 
 #include "controls/ControlTable.h"
 #include "controls/VistaButton.h"
+#include "design/surface/FileList.h"
 #include "design/surface/Numbers.h"
 #include "design/surface/PictureGate.h"
 #include "design/tools/FrameRings.h"
@@ -26,7 +27,8 @@ FramePanel::FramePanel(QWidget& window, Design& design)
 void FramePanel::fillList() {
     list_.setObjectName(QStringLiteral("FileLijst"));
     list_.hide();
-    list_.addItems(frameFileNames(design_.Folders.in(QStringLiteral("Lijsten"))));
+    list_.addItems(
+        fileNames(design_.Folders.in(QStringLiteral("Lijsten")), {QStringLiteral("*.fra")}));
     slider_.setRange(1, std::max(1, list_.count()));
     slider_.setPageStep(1);
     label_.setText(QStringLiteral("1 / %1").arg(list_.count()));

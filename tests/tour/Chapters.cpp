@@ -302,6 +302,22 @@ void copyAPiece(User& user, Design& design) {
         },
         QStringLiteral("Plak(5)"), QStringLiteral("plakken"));
     user.photo(QStringLiteral("geplakt"));
+
+    user.during(
+        [&] {
+            user.choosePopUp(
+                [&] {
+                    user.drag(pic, {{290, 20}, {350, 60}, {420, 140}});
+                },
+                QStringLiteral("SelectieCopy(7)"));
+        },
+        [&] {
+            auto* list = qobject_cast<QListWidget*>(&user.find(QStringLiteral("List1")));
+            user.clickAt(*list->viewport(), list->visualItemRect(list->item(0)).center());
+            user.photo(QStringLiteral("importeren"));
+            user.click(QStringLiteral("ExportKnop"));
+        });
+    user.photo(QStringLiteral("eigen-foto"));
     if (design.ClipPic.Visible) {
         user.fail(QStringLiteral("the picture still floats"));
     }

@@ -1,4 +1,6 @@
 #include "design/tools/FrameRings.h"
+
+#include "design/surface/FileList.h"
 #include "design/surface/GraphicsCalls.h"
 #include "design/surface/PictureGate.h"
 #include "tests/support/Pictures.h"
@@ -62,7 +64,7 @@ private slots:
     void OurOwnFramesAreRingsThatEndInWhite() {
         const QString folder =
             qEnvironmentVariable("KAART_SOURCE") + QStringLiteral("/data/Lijsten/");
-        const QStringList names = frameFileNames(folder);
+        const QStringList names = fileNames(folder, {QStringLiteral("*.fra")});
         QCOMPARE(names.size(), 8);
         QCOMPARE(names.value(0), QStringLiteral("Lijst-001.fra"));
         for (const QString& name : names) {
