@@ -256,7 +256,7 @@ void placeTexts(User& user, Design& design) {
     user.click(QStringLiteral("OpenCheck"));
     user.click(QStringLiteral("DiagonalCheck"));
     user.choose(QStringLiteral("Combo3"), QStringLiteral("15"));
-    place(QStringLiteral("zaterdag 12 april"), "18", {230, 300}, nullptr);
+    place(QStringLiteral("zaterdag 12 april"), "18", {190, 305}, nullptr);
     user.click(QStringLiteral("DiagonalCheck"));
     user.click(QStringLiteral("BoldCheck"));
     user.photo(QStringLiteral("tekstregels"));
@@ -277,7 +277,7 @@ void placePoem(User& user, Design& design) {
     user.doubleClickAt(*list->viewport(), list->visualItemRect(list->item(0)).center());
     user.click(QStringLiteral("AlignKnop(1)"));
     user.click(QStringLiteral("PlaatsKnop2"));
-    user.carry(user.find(QStringLiteral("TextLabel2")), {110, 490});
+    user.carry(user.find(QStringLiteral("TextLabel2")), {70, 476});
     user.photo(QStringLiteral("lange-tekst"));
     user.clickAt(user.find(QStringLiteral("TextLabel2")), {20, 20}, Qt::RightButton);
     user.click(QStringLiteral("TekenKnop(66)"));
@@ -295,7 +295,7 @@ void copyAPiece(User& user, Design& design) {
         },
         QStringLiteral("SelectieCopy(2)"), QStringLiteral("selectie-menu"));
     QWidget& clip = user.find(QStringLiteral("ClipPic"));
-    user.carry(clip, {290, 480});
+    user.carry(clip, {292, 322});
     user.choosePopUp(
         [&] {
             user.clickAt(clip, {50, 50}, Qt::RightButton);
@@ -307,7 +307,7 @@ void copyAPiece(User& user, Design& design) {
         [&] {
             user.choosePopUp(
                 [&] {
-                    user.drag(pic, {{290, 20}, {350, 60}, {420, 140}});
+                    user.drag(pic, {{166, 325}, {220, 400}, {284, 475}});
                 },
                 QStringLiteral("SelectieCopy(7)"));
         },
