@@ -32,11 +32,6 @@ QString jpegCopyPath(const DesignFolders& folders, const QString& name) {
     return folders.pictures + QLatin1Char('/') + name + QStringLiteral(".jpg");
 }
 
-bool isRefusedName(const QString& name) {
-    return name.contains(QLatin1Char('/')) || name.contains(QLatin1Char('\\')) ||
-           name.contains(QChar(0));
-}
-
 QStringList designFileNames(const DesignFolders& folders) {
     return fileNames(designFolder(folders), {QStringLiteral("*.bmp")});
 }

@@ -22,9 +22,6 @@ QString designPath(const DesignFolders& folders, const QString& name);
 /// The JPEG copy beside it, <pictures>/<name>.jpg, which is never read back.
 QString jpegCopyPath(const DesignFolders& folders, const QString& name);
 
-/// Names that would lead out of their folder: those with a slash, a back slash or a zero character.
-bool isRefusedName(const QString& name);
-
 /// The designs' file names, sorted without regard to case. Empty when the folder isn't there.
 QStringList designFileNames(const DesignFolders& folders);
 

@@ -9,4 +9,9 @@ QStringList fileNames(const QString& folder, const QStringList& patterns) {
                                   QDir::Name | QDir::IgnoreCase);
 }
 
+bool isRefusedName(const QString& name) {
+    return name.contains(QLatin1Char('/')) || name.contains(QLatin1Char('\\')) ||
+           name.contains(QChar(0));
+}
+
 } // namespace kaart

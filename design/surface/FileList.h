@@ -8,4 +8,7 @@ namespace kaart {
 /// without regard to case, hidden ones too. Empty for a folder that can't be read.
 QStringList fileNames(const QString& folder, const QStringList& patterns);
 
+/// Names that would lead out of their folder: those with a slash, a back slash or a zero character.
+bool isRefusedName(const QString& name);
+
 } // namespace kaart

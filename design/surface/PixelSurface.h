@@ -136,6 +136,7 @@ public:
 
     /// Writes at (CurrentX, CurrentY), the text's top left, and moves CurrentY down a line.
     void Print(const QString& text);
+    QFont font() const; ///< what Print writes in now
     double TextWidth(const QString& text) const;
     double TextHeight(const QString& text) const;
     /// From here Print writes in this font instead of the text state's; nullopt ends it.
@@ -149,7 +150,6 @@ private:
     int toPixels(double length) const;
     double fromPixels(int length, ScaleUnit unit) const;
     int penWidth() const;
-    QFont font() const;
     QImage ground(int width, int height) const;
 
     QImage picture_;

@@ -5,8 +5,6 @@
 
 #include <QDir>
 
-#include <algorithm>
-
 namespace kaart {
 
 namespace {
@@ -24,10 +22,7 @@ QStringList textFileNames(const ProgramFolders& folders) {
 }
 
 std::optional<QString> textPath(const ProgramFolders& folders, const QString& name) {
-    const auto leadsOut = [](QChar letter) {
-        return letter == QLatin1Char('/') || letter == QLatin1Char('\\') || letter.isNull();
-    };
-    if (name.isEmpty() || std::any_of(name.begin(), name.end(), leadsOut)) {
+    if (name.isEmpty() || isRefusedName(name)) {
         return std::nullopt;
     }
     return libraryFolder(folders) + QLatin1Char('/') + name + QStringLiteral(".txt");

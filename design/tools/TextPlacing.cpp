@@ -82,6 +82,10 @@ void letGo(Design& design, TextOverlay& label) {
 
 } // namespace
 
+QFont fontOf(const TextStyle& style) {
+    return surfaceWith(style).font();
+}
+
 void PlaatsTekst(const Design& design, PixelSurface& surface, double x, double y,
                  const QString& text) {
     takeStyle(surface, design.Tekst);

@@ -2,6 +2,7 @@
 
 #include "design/session/Design.h"
 
+#include <QFont>
 #include <QPoint>
 #include <QStringList>
 
@@ -9,6 +10,9 @@ namespace kaart {
 
 // Texts on the design: how they are drawn, and how one hangs above the canvas until it is placed.
 // Coordinates are pixels; (x, y) is a text's top left.
+
+/// The font that a style has on the design.
+QFont fontOf(const TextStyle& style);
 
 /// Writes one line in the font, style and effects that the panels say: the shadow first, eight
 /// greys from 228 at (8, 8) to 186 at (1, 1); then, for open text, the edge in Tekenkleur and the

@@ -65,8 +65,8 @@ const std::span<const Main::Command> Main::commands = [] {
         Command{"FileNew", [](Main& window) { window.FileNew(); }},
         Command{"FileExit", [](Main& window) { window.close(); }},
         Command{"EditUndo", [](Main& window) { window.design_.EditUndo(); }},
-        Command{"Richting(1)", [](Main& window) { window.zetRichting(1); }},
-        Command{"Richting(2)", [](Main& window) { window.zetRichting(2); }},
+        Command{"Richting(1)", [](Main& window) { window.design_.ZetRichting(1); }},
+        Command{"Richting(2)", [](Main& window) { window.design_.ZetRichting(2); }},
     };
     return std::span<const Command>(table);
 }();
@@ -229,10 +229,6 @@ void Main::closeEvent(QCloseEvent* event) {
                     QStringLiteral("De instellingen konden niet worden opgeslagen."),
                     QMessageBox::Warning);
     }
-}
-
-void Main::zetRichting(int kind) {
-    design_.ZetRichting(kind);
 }
 
 void Main::showOrientation() {

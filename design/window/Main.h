@@ -39,7 +39,6 @@ private:
     void connectMenus(WindowTable windows);
     void loadSettings();
     bool saveSettings() const;
-    void zetRichting(int kind);
     void showOrientation();
     void showMouse(const QPoint& at);
     void tickClock();

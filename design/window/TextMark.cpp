@@ -9,24 +9,6 @@
 
 namespace kaart {
 
-namespace {
-
-constexpr double pixelsPerPoint = 96.0 / 72.0;
-
-} // namespace
-
-QFont fontOf(const TextStyle& style) {
-    QFont font(style.FontName);
-    font.setPixelSize(std::max(1, roundEven(style.FontSize * pixelsPerPoint)));
-    font.setBold(style.FontBold);
-    font.setItalic(style.FontItalic);
-    font.setUnderline(style.FontUnderline);
-    font.setStyleStrategy(
-        QFont::StyleStrategy(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
-    font.setHintingPreference(QFont::PreferVerticalHinting);
-    return font;
-}
-
 Qt::AlignmentFlag sideOf(TextAlignment alignment) {
     static constexpr Qt::AlignmentFlag sides[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
     return sides[static_cast<int>(alignment)];

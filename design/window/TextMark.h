@@ -2,13 +2,9 @@
 
 #include "design/session/Design.h"
 
-#include <QFont>
 #include <QLabel>
 
 namespace kaart {
-
-/// The font that a style has on the design, for the screen.
-QFont fontOf(const TextStyle& style);
 
 Qt::AlignmentFlag sideOf(TextAlignment alignment);
 

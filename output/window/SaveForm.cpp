@@ -7,6 +7,7 @@
 #include "controls/VistaButton.h"
 #include "design/session/Algemeen.h"
 #include "design/session/Design.h"
+#include "design/surface/FileList.h"
 #include "design/surface/Numbers.h"
 
 #include <QEvent>
