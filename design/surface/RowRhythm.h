@@ -13,6 +13,8 @@ public:
 
     /// `done` rows of `total` are finished; `done` runs from 1 to `total`.
     virtual void rowDone(int done, int total) = 0;
+    /// A pass before the first row is finished; it counts for so many percent of the whole.
+    virtual void prepared(int /*percent*/) {}
 };
 
 /// For callers that show nothing.
