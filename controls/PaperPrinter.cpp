@@ -27,12 +27,12 @@ bool isPlace(std::initializer_list<double> lengths) {
     });
 }
 
+// One by one: a printer that doesn't reach the sheet's edges refuses a layout without margins as a
+// whole, orientation included.
 void setUpSheet(QPagedPaintDevice& device, int orientation) {
-    QPageLayout layout(QPageSize(QPageSize::A4),
-                       orientation == 1 ? QPageLayout::Portrait : QPageLayout::Landscape,
-                       QMarginsF(0, 0, 0, 0));
-    layout.setMode(QPageLayout::FullPageMode);
-    device.setPageLayout(layout);
+    device.setPageSize(QPageSize(QPageSize::A4));
+    device.setPageOrientation(orientation == 1 ? QPageLayout::Portrait : QPageLayout::Landscape);
+    device.setPageMargins(QMarginsF(0, 0, 0, 0));
 }
 
 PaperPrinter::Paper pdfPaper(const QString& path) {

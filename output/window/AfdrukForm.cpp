@@ -11,8 +11,10 @@
 #include "design/surface/Numbers.h"
 #include "design/surface/PrinterObject.h"
 #include "output/A4Layout.h"
+#include "output/CalendarLayout.h"
 #include "output/FoldedCardLayout.h"
 #include "output/OptimisePicture.h"
+#include "output/PostcardsLayout.h"
 #include "output/TypedNumber.h"
 
 #include <QComboBox>
@@ -29,8 +31,8 @@ namespace {
 
 constexpr int optionCount = 4;
 
-/// By option; one without a layout can't be printed yet.
-const PageLayout layouts[optionCount] = {printA4, printFoldedCard, nullptr, nullptr};
+/// By option.
+const PageLayout layouts[optionCount] = {printA4, printFoldedCard, printPostcards, printCalendar};
 
 constexpr const char* marginCombos[] = {"LMcombo", "TMcombo", "RMcombo", "BMcombo"};
 
@@ -213,11 +215,6 @@ void AfdrukForm::pickOption() {
         control<QWidget>(*this, name).setEnabled(picked == PrintOption::A4);
     }
     control<QWidget>(*this, "Combo3").setVisible(picked == PrintOption::YearCalendar);
-    const bool printable = layouts[static_cast<int>(picked)] != nullptr;
-    auto& button = control<VistaButton>(*this, "PrintKnop");
-    button.setEnabled(printable);
-    button.setToolTip(printable ? QString()
-                                : QStringLiteral("Deze indeling komt in een volgende versie"));
     const int kind = previewKind(picked, design_.isLandscape());
     SizePreview(kind);
     const char* calendar = kind == 1 ? "Image2" : "Image3";

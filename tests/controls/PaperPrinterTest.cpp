@@ -1,26 +1,13 @@
 #include "controls/PaperPrinter.h"
+#include "tests/support/PdfFile.h"
 #include "tests/support/Pictures.h"
 #include "tests/support/Test.h"
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 
 using namespace kaart;
-
-namespace {
-
-/// What a tool for PDF files says, or nothing when it isn't there.
-QString ask(const QString& tool, const QStringList& arguments) {
-    QProcess process;
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(tool, arguments);
-    return process.waitForFinished(60000) ? QString::fromUtf8(process.readAllStandardOutput())
-                                          : QString();
-}
-
-} // namespace
 
 class PaperPrinterTest : public QObject {
     Q_OBJECT
@@ -28,33 +15,13 @@ class PaperPrinterTest : public QObject {
     QTemporaryDir folder_;
     QString path_;
 
-    QImage rendered(int page) const {
-        const QString picture = folder_.filePath("page");
-        const QString number = QString::number(page);
-        ask("pdftoppm", {QStringLiteral("-r"), QStringLiteral("72"), QStringLiteral("-f"), number,
-                         QStringLiteral("-l"), number, QStringLiteral("-singlefile"),
-                         QStringLiteral("-png"), path_, picture});
-        return QImage(picture + ".png");
-    }
-
-    QStringList pageSizes() const {
-        QStringList sizes;
-        const QString told = ask("pdfinfo", {QStringLiteral("-l"), QStringLiteral("99"), path_});
-        for (const QString& line : told.split(QLatin1Char('\n'))) {
-            if (line.startsWith(QLatin1String("Page ")) && line.contains(QLatin1String("size:"))) {
-                sizes << line.section(QLatin1Char(':'), 1).simplified();
-            }
-        }
-        return sizes;
-    }
-
     std::unique_ptr<PaperPrinter> printer() const {
         return PaperPrinter::forPdf(QStringLiteral("PDF"), path_);
     }
 
 private slots:
     void initTestCase() {
-        if (ask("pdfinfo", {QStringLiteral("-v")}).isNull()) {
+        if (!PdfFile::canBeRead()) {
             QSKIP("poppler-utils is missing: no PDF file was looked at");
         }
     }
@@ -71,9 +38,7 @@ private slots:
         paper->PaintPicture(design, 0, 0, 11910, 16845, 0, 0, 440, 640);
         paper->NewPage();
         QVERIFY(paper->EndDoc());
-        ask("pdfimages", {QStringLiteral("-png"), path_, folder_.filePath("image")});
-        const QImage read(folder_.filePath("image-000.png"));
-        comparePictures(read.convertToFormat(QImage::Format_RGB32), design);
+        comparePictures(PdfFile(path_).picture(0).convertToFormat(QImage::Format_RGB32), design);
     }
 
     void EmptySheetsAreDroppedAndEachHasItsOrientation() {
@@ -87,8 +52,8 @@ private slots:
         paper->Line(0, 0, 5000, 5000, black);
         paper->NewPage();
         QVERIFY(paper->EndDoc());
-        QCOMPARE(pageSizes(), QStringList({QStringLiteral("595 x 842 pts (A4)"),
-                                           QStringLiteral("842 x 595 pts (A4)")}));
+        QCOMPARE(PdfFile(path_).pages(), QStringList({QStringLiteral("595 x 842 pts (A4)"),
+                                                      QStringLiteral("842 x 595 pts (A4)")}));
     }
 
     void DrawingStandsWhereTwipsPutIt() {
@@ -102,7 +67,7 @@ private slots:
         paper->Line(1440, 5760, 2880, 7200, RGB(0, 0, 255), LineMode::Box);
         paper->Line(4320, 5760, 5760, 7200, RGB(0, 0, 255), LineMode::FilledBox);
         QVERIFY(paper->EndDoc());
-        const QImage page = rendered(1);
+        const QImage page = PdfFile(path_).rendered(1, 72);
         QCOMPARE(page.size(), QSize(842, 595));
         const QList<std::pair<QPoint, QRgb>> samples{
             {{70, 100}, 0xFFFFFFFF},  {{74, 74}, 0xFFFF0000},   {{141, 141}, 0xFFFF0000},
@@ -132,18 +97,9 @@ private slots:
         paper->Print(QStringLiteral("HHH"));
         QCOMPARE(paper->CurrentY, 1440 + line);
         QVERIFY(paper->EndDoc());
-        const QImage page = rendered(1);
-        QRect ink;
-        for (int y = 0; y < page.height(); ++y) {
-            for (int x = 0; x < page.width(); ++x) {
-                if (qGray(page.pixel(x, y)) < 128) {
-                    ink |= QRect(x, y, 1, 1);
-                }
-            }
-        }
-        const double width = paper->TextWidth(QStringLiteral("HHH")) / 20;
-        QVERIFY(ink.left() >= 72 && ink.right() < 72 + width && ink.width() > width * 0.9);
-        QVERIFY(ink.top() >= 72 && ink.bottom() < 72 + line / 20 && ink.height() > 45);
+        const auto words = PdfFile(path_).words(1);
+        QCOMPARE(words.size(), 1);
+        QVERIFY((words[0].place - QPointF(72, 72)).manhattanLength() < 0.5);
     }
 
     void UnwritableFileIsToldAtTheEnd() {
@@ -157,7 +113,7 @@ private slots:
         QVERIFY(QDir(folder_.path()).mkdir("nergens"));
         paper->Line(0, 0, 500, 500, black);
         QVERIFY(paper->EndDoc());
-        QCOMPARE(pageSizes().size(), 1);
+        QCOMPARE(PdfFile(path_).pages().size(), 1);
     }
 
     void UnfinishedOrEmptyJobLeavesTheOldFile() {

@@ -1,8 +1,9 @@
 #include "design/surface/RecordingPrinter.h"
-#include "output/A4Layout.h"
-#include "output/FoldedCardLayout.h"
 #include "output/TypedNumber.h"
+#include "tests/support/PrintJobs.h"
 #include "tests/support/Test.h"
+
+#include <QRegularExpression>
 
 using namespace kaart;
 
@@ -57,21 +58,32 @@ private slots:
                                 "EndDoc"));
     }
 
-    void FoldedCardStandsAcrossTheDesign_data() {
-        QTest::addColumn<bool>("landscape");
-        QTest::addColumn<QString>("page");
-        QTest::newRow("upright") << false
-                                 << "Sheet 2; PaintPicture 2400 1410 6000 9180 from 0 0 440 640; "
-                                    "Line 8400 1410 14400 10590 000000 B fill F0F0F0; NewPage";
-        QTest::newRow("lying") << true
-                               << "Sheet 1; PaintPicture 1410 2400 9180 6000 from 0 0 640 440; "
-                                  "Line 1410 8400 10590 14400 000000 B fill F0F0F0; NewPage";
-    }
-    void FoldedCardStandsAcrossTheDesign() {
-        QFETCH(bool, landscape);
-        QFETCH(QString, page);
-        PrintOrder order{designOf(landscape), landscape, 2, {5, 5, 5, 5}};
-        QCOMPARE(printed(printFoldedCard, order), page + QStringLiteral("; ") + page + "; EndDoc");
+    void PicturesAndBoxesStandInTheirPlaces_data() { printJobRows(); }
+    void PicturesAndBoxesStandInTheirPlaces() {
+        QFETCH(PrintJob, job);
+        QStringList sheet{QStringLiteral("Sheet %1").arg(job.orientation)};
+        for (const QRect& place : job.pictures) {
+            sheet << QStringLiteral("PaintPicture %1 %2 %3 %4 from 0 0 ")
+                             .arg(place.x())
+                             .arg(place.y())
+                             .arg(place.width())
+                             .arg(place.height()) +
+                         (job.landscape ? "640 440" : "440 640");
+        }
+        if (const QRect& box = job.box; !box.isEmpty()) {
+            sheet << QStringLiteral("Line %1 %2 %3 %4 000000 B fill F0F0F0")
+                         .arg(box.x())
+                         .arg(box.y())
+                         .arg(box.x() + box.width())
+                         .arg(box.y() + box.height());
+        }
+        sheet << QStringLiteral("NewPage");
+        RecordingPrinter printer;
+        job.layout(printer, orderOf(job));
+        // The calendar's words and lines have a test of their own.
+        static const QRegularExpression others(QStringLiteral("^(Print|Line [^B]*$)"));
+        printer.Log.removeIf([](const QString& line) { return line.contains(others); });
+        QCOMPARE(printer.Log, sheet + sheet + QStringList(QStringLiteral("EndDoc")));
     }
 
     void NoCopiesOnlyEndTheJobAndManyHaveAnEnd() {
