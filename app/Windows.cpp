@@ -1,5 +1,6 @@
 #include "app/Windows.h"
 
+#include "addresses/window/AdresForm.h"
 #include "output/window/AfdrukForm.h"
 #include "output/window/OpenForm.h"
 #include "output/window/SaveForm.h"
@@ -20,6 +21,7 @@ constexpr std::array table = {
     WindowRow{"FileOpen", open<OpenForm>},
     WindowRow{"FileSave", open<SaveForm>},
     WindowRow{"FilePrint", open<AfdrukForm>},
+    WindowRow{"GereedschapAdressen", open<AdresForm>},
     WindowRow{"SelectieCopy(7)", open<CopyDialog>},
 };
 

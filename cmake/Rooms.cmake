@@ -16,7 +16,8 @@ function(kaart_program)
     list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
     add_library(app STATIC ${sources})
     target_include_directories(app PUBLIC ${CMAKE_SOURCE_DIR})
-    target_link_libraries(app PUBLIC design_window output_window pictures_window)
+    target_link_libraries(app PUBLIC design_window output_window pictures_window
+                          addresses_window puzzle_window)
 
     add_executable(kaartwerkje app/main.cpp)
     target_link_libraries(kaartwerkje PRIVATE app)

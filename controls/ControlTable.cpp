@@ -16,6 +16,7 @@
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QTreeView>
 
 namespace kaart {
 
@@ -37,6 +38,15 @@ QWidget* makeCombo(bool editable) {
     combo->setEditable(editable);
     combo->setInsertPolicy(QComboBox::NoInsert);
     return combo;
+}
+
+QWidget* makeListView() {
+    auto* list = new QTreeView;
+    list->setRootIsDecorated(false);
+    list->setItemsExpandable(false);
+    list->setUniformRowHeights(true);
+    list->setAllColumnsShowFocus(true);
+    return list;
 }
 
 QWidget* makeScroll() {
@@ -75,6 +85,8 @@ QWidget* makeControl(ControlKind kind, const QString& caption) {
         return makeCombo(true);
     case ControlKind::List:
         return new QListWidget;
+    case ControlKind::ListView:
+        return makeListView();
     case ControlKind::Text:
         return new QLineEdit(caption);
     case ControlKind::Memo:
@@ -94,7 +106,9 @@ QWidget* makeControl(ControlKind kind, const QString& caption) {
 void showIcon(VistaButton& button, const char* name) {
     constexpr int room = 12; // above and below the icon together
     button.setIcon(icon(QString::fromUtf8(name)));
-    button.setIconSize(QSize(button.height() - room, button.height() - room));
+    constexpr int smallest = 16;
+    const int side = qMax(smallest, button.height() - room);
+    button.setIconSize(QSize(side, side));
 }
 
 } // namespace

@@ -22,8 +22,9 @@ enum class ControlKind {
     Memo,   ///< several lines
     Scroll, ///< horizontal scroll bar, 0 to 255 until told otherwise
     Fader,
-    Button, ///< VistaButton
-    Surface ///< SurfaceView
+    Button,  ///< VistaButton
+    Surface, ///< SurfaceView
+    ListView ///< rows of several columns: a QTreeView without a tree
 };
 
 /// One control of a window. Place and size are twips within the parent, which stands earlier in the

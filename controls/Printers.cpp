@@ -1,5 +1,6 @@
 #include "controls/Printers.h"
 
+#include "controls/Messages.h"
 #include "controls/PaperPrinter.h"
 
 #include <QDir>
@@ -80,6 +81,12 @@ std::unique_ptr<PrinterObject> openPrinter(QWidget* parent, const Printers& prin
     }
     const QString path = askPdfPath(parent, suggestion);
     return path.isEmpty() ? nullptr : PaperPrinter::forPdf(name, path);
+}
+
+void reportFailedPdf(QWidget* parent) {
+    showMessage(parent, QStringLiteral("Afdrukken"),
+                QStringLiteral("Het PDF-bestand kon niet worden geschreven."),
+                QMessageBox::Critical);
 }
 
 } // namespace kaart

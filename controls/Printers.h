@@ -31,4 +31,7 @@ void pickPrinter(const QString& deviceName);
 std::unique_ptr<PrinterObject> openPrinter(QWidget* parent, const Printers& printers, int index,
                                            const QString& suggestion);
 
+/// Tells the user that the PDF file of a print job did not come out.
+void reportFailedPdf(QWidget* parent);
+
 } // namespace kaart

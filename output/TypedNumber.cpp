@@ -1,17 +1,12 @@
 #include "output/TypedNumber.h"
 
 #include "design/surface/Numbers.h"
-
-#include <cmath>
+#include "design/surface/ParseNumber.h"
 
 namespace kaart {
 
 double typedNumber(const QString& text) {
-    QString plain = text.trimmed();
-    plain.replace(QLatin1Char(','), QLatin1Char('.'));
-    bool isNumber = false;
-    const double number = plain.toDouble(&isNumber);
-    return isNumber && std::isfinite(number) ? number : 0;
+    return parseNumber(text).value_or(0);
 }
 
 int typedWholeNumber(const QString& text) {

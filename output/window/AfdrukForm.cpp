@@ -2,7 +2,6 @@
 
 #include "controls/Art.h"
 #include "controls/ControlTable.h"
-#include "controls/Messages.h"
 #include "controls/Palette.h"
 #include "controls/SurfaceView.h"
 #include "controls/VistaButton.h"
@@ -278,9 +277,7 @@ void AfdrukForm::print() {
         return;
     }
     if (!layout(*printer, wanted) && printers_.isPdf(index)) {
-        showMessage(this, QStringLiteral("Afdrukken"),
-                    QStringLiteral("Het PDF-bestand kon niet worden geschreven."),
-                    QMessageBox::Critical);
+        reportFailedPdf(this);
     }
     if (self) {
         accept();
