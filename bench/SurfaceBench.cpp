@@ -24,16 +24,6 @@ QImage noise() {
     return picture;
 }
 
-void limitMemcpy(benchmark::State& state) {
-    const std::vector<Pixel> from(std::size_t{width} * height, 7);
-    std::vector<Pixel> to(from.size());
-    for (auto _ : state) {
-        std::memcpy(to.data(), from.data(), from.size() * sizeof(Pixel));
-        benchmark::DoNotOptimize(to.data());
-        benchmark::ClobberMemory();
-    }
-}
-
 void floodBlank(benchmark::State& state) {
     PixelSurface surface(width, height);
     int x = 0;
@@ -79,7 +69,6 @@ void undoCopyAndFirstChange(benchmark::State& state) {
 
 } // namespace
 
-BENCHMARK(limitMemcpy)->Name("limit/memcpy/card");
 BENCHMARK(floodBlank)->Name("flood_blank/ours/card/t1");
 BENCHMARK(copyDesign)->Name("copy/ours/card/t1");
 BENCHMARK(stretchDouble)->Name("stretch2x/ours/card/t1");

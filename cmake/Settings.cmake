@@ -23,6 +23,15 @@ add_compile_options(-Wall -Wextra -Wconversion -Wshadow -Werror)
 add_compile_options(-ffp-contract=off)
 add_compile_definitions(QT_NO_FOREACH)
 
+# Vector kernels: on x86-64 every processor since 2009, and those with AVX2 found at run time. More
+# kinds would cost more to compile than they give.
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
+    if(NOT MSVC)
+        add_compile_options(-march=x86-64-v2)
+    endif()
+    add_compile_definitions(HWY_DISABLE_PCLMUL_AES "HWY_DISABLED_TARGETS=(HWY_AVX3|HWY_AVX3_DL)")
+endif()
+
 if(KAART_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -O1)
     add_link_options(-fsanitize=address,undefined)

@@ -23,7 +23,7 @@ Design::Design(ProgramFolders folders, QObject* parent)
     ClipPic.Visible = false;
 }
 
-void Design::show() {
+void Design::Refresh() {
     const QRect changed = pic_.Refresh();
     if (!changed.isEmpty()) {
         emit picChanged(changed);
@@ -38,7 +38,7 @@ void Design::change(const Change& change) {
 void Design::changeFurther(const Change& change) {
     change(pic_);
     Gewijzigd = true;
-    show();
+    Refresh();
 }
 
 void Design::takeUndo() {
@@ -52,7 +52,7 @@ void Design::EditUndo() {
 void Design::FileNew() {
     pic_.setPicture({});
     OntwerpNaam.clear();
-    show();
+    Refresh();
 }
 
 void Design::open(const QImage& picture, const QString& name) {
@@ -60,7 +60,7 @@ void Design::open(const QImage& picture, const QString& name) {
     undoPic_.setPicture(picture);
     OntwerpNaam = name;
     Gewijzigd = false;
-    show();
+    Refresh();
 }
 
 void Design::ZetRichting(int kind) {
@@ -72,7 +72,7 @@ void Design::ZetRichting(int kind) {
     }
     Gewijzigd = true;
     emit orientationChanged();
-    show();
+    Refresh();
 }
 
 bool Design::isLandscape() const {

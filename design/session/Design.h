@@ -2,6 +2,7 @@
 
 #include "design/session/Overlays.h"
 #include "design/session/ProgramFolders.h"
+#include "design/session/Progress.h"
 #include "design/session/TextStyle.h"
 #include "design/surface/PixelSurface.h"
 
@@ -56,6 +57,8 @@ public:
     int MargeOnder = 0;
     double GrijpX = 0;
     int GrijpY = 0;
+    bool FilterBusy = false; ///< a filter on the array path is running
+    int FilterPercent = 0;   ///< how far it has come
 
     // What the option panels say.
     ColorRef Tekenkleur = RGB(60, 60, 60);
@@ -70,6 +73,8 @@ public:
     LabelOverlay XYcor;
     TextOverlay TextLabel;  ///< the text line, which follows the mouse
     TextOverlay TextLabel2; ///< the long text, which is dragged
+
+    Progress Voortgang; ///< of long work
 
     using Change = std::function<void(PixelSurface& pic)>;
     /// The gate: undo copy, the change, Gewijzigd, refresh.
@@ -103,6 +108,10 @@ public:
     /// To be called after one of these marks was changed.
     void showOverlays() { emit overlaysChanged(); }
     void showFloat() { emit floatChanged(); }
+    /// To be called after Voortgang was changed.
+    void showProgress() { emit progressChanged(); }
+    /// Pic.Refresh: shows what was drawn since the last time.
+    void Refresh();
 
 signals:
     void picChanged(const QRect& pixels);
@@ -114,10 +123,9 @@ signals:
     void selectionMade();
     void coloursChanged();
     void toolChanged();
+    void progressChanged();
 
 private:
-    void show();
-
     PixelSurface pic_;
     PixelSurface undoPic_;
 };

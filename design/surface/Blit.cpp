@@ -1,5 +1,8 @@
 #include "design/surface/Blit.h"
 
+#include "design/surface/RunKernels.h"
+
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 
@@ -10,6 +13,9 @@ namespace {
 using Piece = AxisMap::Piece;
 
 Piece pieceOf(std::int64_t i, std::int64_t targetSize, std::int64_t sourceSize) {
+    if (sourceSize == targetSize) {
+        return {static_cast<int>(i), static_cast<int>(i) + 1};
+    }
     if (sourceSize <= targetSize) {
         const auto first = static_cast<int>(
             ((2 * i + 1) * sourceSize + 2 * targetSize - 1) / (2 * targetSize) - 1);
@@ -24,25 +30,20 @@ Piece pieceOf(std::int64_t i, std::int64_t targetSize, std::int64_t sourceSize) 
     return {firstCentreFrom(i), firstCentreFrom(i + 1)};
 }
 
-Pixel combine(Pixel source, Pixel target, RasterOp rop) {
-    switch (rop) {
-    case RasterOp::And:
-        return (source & target) | 0xFF000000U;
-    case RasterOp::MergePaint:
-        return ~source | target | 0xFF000000U;
-    case RasterOp::Copy:
-        break;
-    }
-    return source;
-}
-
 void combineRow(Pixel* target, const Pixel* source, std::size_t count, RasterOp rop) {
-    if (rop == RasterOp::Copy) {
+    constexpr Pixel fourth = 0xFF000000U;
+    switch (rop) {
+    case RasterOp::Copy:
         std::memcpy(target, source, count * sizeof(Pixel));
-        return;
-    }
-    for (std::size_t i = 0; i < count; ++i) {
-        target[i] = combine(source[i], target[i], rop);
+        break;
+    case RasterOp::And:
+        std::transform(source, source + count, target, target,
+                       [](Pixel s, Pixel t) { return (s & t) | fourth; });
+        break;
+    case RasterOp::MergePaint:
+        std::transform(source, source + count, target, target,
+                       [](Pixel s, Pixel t) { return ~s | t | fourth; });
+        break;
     }
 }
 
@@ -50,13 +51,17 @@ bool isSingle(const Piece& piece) {
     return piece.last - piece.first == 1;
 }
 
-bool consecutive(const std::vector<Piece>& pieces) {
-    for (std::size_t i = 0; i < pieces.size(); ++i) {
-        if (!isSingle(pieces[i]) || pieces[i].first != pieces[0].first + static_cast<int>(i)) {
-            return false;
+/// 1 if the pieces are neighbouring pixels in order, -1 in reverse order, otherwise 0.
+int direction(const std::vector<Piece>& pieces) {
+    const int step = pieces.size() > 1 && pieces[1].first < pieces[0].first ? -1 : 1;
+    int expected = pieces[0].first;
+    for (const Piece& piece : pieces) {
+        if (!isSingle(piece) || piece.first != expected) {
+            return 0;
         }
+        expected += step;
     }
-    return true;
+    return step;
 }
 
 /// The mean of a block of pixels, channel by channel, to the nearest whole number.
@@ -108,6 +113,7 @@ AxisMap AxisMap::make(BlitAxis target, int targetLimit, BlitAxis source, int sou
     const bool mirrored = (target.size < 0) != (source.size < 0);
     const int first = std::max(0, -targetStart);
     const int last = std::min(n, targetLimit - targetStart);
+    map.pieces.reserve(static_cast<std::size_t>(std::max(0, last - first)));
     for (int i = first; i < last; ++i) {
         Piece piece = pieceOf(mirrored ? n - 1 - i : i, n, k);
         piece.first = std::max(0, piece.first + sourceStart);
@@ -132,14 +138,18 @@ QRect blit(PixelSpan target, const BlitRect& to, ConstPixelSpan source, const Bl
         return {};
     }
     const std::size_t width = columns.pieces.size();
-    const bool straight = consecutive(columns.pieces);
-    std::vector<Pixel> row(straight ? 0 : width);
+    const int order = direction(columns.pieces);
+    std::vector<Pixel> row(order > 0 ? 0 : width);
     int previous = -1;
     for (std::size_t i = 0; i < rows.pieces.size(); ++i) {
         const Piece& piece = rows.pieces[i];
         Pixel* out = target.row(rows.start + static_cast<int>(i)) + columns.start;
-        if (straight && isSingle(piece)) {
+        if (order > 0 && isSingle(piece)) {
             combineRow(out, source.row(piece.first) + columns.pieces[0].first, width, rop);
+            continue;
+        }
+        if (order < 0 && isSingle(piece) && rop == RasterOp::Copy) {
+            reverseRun(out, source.row(piece.first) + columns.pieces.back().first, width);
             continue;
         }
         row.resize(width);

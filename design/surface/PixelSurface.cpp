@@ -79,6 +79,13 @@ PixelSpan PixelSurface::writePixels(const QRect& changed) {
     return spanOf(image_);
 }
 
+void PixelSurface::setPixels(const QImage& pixels) {
+    if (pixels.size() == image_.size()) {
+        image_ = toSurfaceFormat(pixels);
+        damage_ = bounds();
+    }
+}
+
 void PixelSurface::Cls() {
     damage_ = bounds();
     if (picture_.size() == image_.size()) {

@@ -96,6 +96,8 @@ public:
     ConstPixelSpan pixels() const { return spanOf(image_); }
     PixelSpan writePixels(const QRect& changed);
     PixelSpan writePixels() { return writePixels(bounds()); }
+    /// Replaces all pixels of Image at once; a picture of another size is refused. Picture stays.
+    void setPixels(const QImage& pixels);
     /// The surface is its own device context for the calls of GraphicsCalls.h.
     PixelSurface& hDC() { return *this; }
 

@@ -1,30 +1,69 @@
 #include "design/surface/Random.h"
 
-#include <algorithm>
+#include <array>
 #include <chrono>
-#include <random>
+#include <cstddef>
 
 namespace kaart {
 
 namespace {
 
-using Generator =
-    std::linear_congruential_engine<std::uint64_t, 6364136223846793005U, 1442695040888963407U, 0>;
+/// One step of the generator, or several at once: from a state to a later one.
+struct Step {
+    std::uint64_t factor;
+    std::uint64_t summand;
 
+    constexpr std::uint64_t operator()(std::uint64_t from) const { return from * factor + summand; }
+    constexpr Step twice() const { return {factor * factor, factor * summand + summand}; }
+};
+
+constexpr Step one{6364136223846793005U, 1442695040888963407U};
 constexpr std::uint64_t firstSeed = 2015;
-constexpr int unusedBits = 64 - 24;
-constexpr float unit = 1.0F / (1 << 24);
 
-Generator generator(firstSeed);
+std::uint64_t state = firstSeed;
+
+std::int32_t topBits(std::uint64_t drawn) {
+    return static_cast<std::int32_t>(drawn >> 40);
+}
+
+float numberOf(std::int32_t bits) {
+    constexpr float unit = 1.0F / (1 << 24);
+    return static_cast<float>(bits) * unit;
+}
 
 } // namespace
 
 float Rnd() {
-    return static_cast<float>(generator() >> unusedBits) * unit;
+    state = one(state);
+    return numberOf(topBits(state));
 }
 
 void fillRnd(std::span<float> numbers) {
-    std::generate(numbers.begin(), numbers.end(), Rnd);
+    // Eight states in a row, each of which leaps over the others: they need not wait for each other.
+    constexpr std::size_t leapers = 8;
+    constexpr Step leap = one.twice().twice().twice();
+    std::array<std::uint64_t, leapers> states;
+    std::uint64_t next = state;
+    for (std::uint64_t& each : states) {
+        each = next = one(next);
+    }
+    std::array<std::int32_t, 4 * leapers> bits; // turned into numbers many at a time
+    std::size_t i = 0;
+    for (; i + bits.size() <= numbers.size(); i += bits.size()) {
+        for (std::size_t j = 0; j < bits.size(); j += leapers) {
+            state = states.back();
+            for (std::size_t k = 0; k < leapers; ++k) {
+                bits[j + k] = topBits(states[k]);
+                states[k] = leap(states[k]);
+            }
+        }
+        for (std::size_t j = 0; j < bits.size(); ++j) {
+            numbers[i + j] = numberOf(bits[j]);
+        }
+    }
+    for (; i < numbers.size(); ++i) {
+        numbers[i] = Rnd();
+    }
 }
 
 void Randomize() {
@@ -33,7 +72,7 @@ void Randomize() {
 }
 
 void seedRnd(std::uint64_t seed) {
-    generator.seed(seed);
+    state = seed;
 }
 
 } // namespace kaart

@@ -57,6 +57,18 @@ void FillRun(Pixel* pixels, std::size_t count, Pixel value) {
     }
 }
 
+void ReverseRun(Pixel* to, const Pixel* from, std::size_t count) {
+    const Lanes d;
+    const std::size_t lanes = hn::Lanes(d);
+    std::size_t i = 0;
+    for (; i + lanes <= count; i += lanes) {
+        hn::StoreU(hn::Reverse(d, hn::LoadU(d, from + count - i - lanes)), d, to + i);
+    }
+    for (; i < count; ++i) {
+        to[i] = from[count - 1 - i];
+    }
+}
+
 } // namespace HWY_NAMESPACE
 } // namespace kaart
 HWY_AFTER_NAMESPACE();
@@ -67,6 +79,7 @@ namespace kaart {
 HWY_EXPORT(DifferentRun);
 HWY_EXPORT(ReplaceRun);
 HWY_EXPORT(FillRun);
+HWY_EXPORT(ReverseRun);
 
 std::size_t differentRun(const Pixel* pixels, std::size_t count, Pixel value) {
     return HWY_DYNAMIC_DISPATCH(DifferentRun)(pixels, count, value);
@@ -78,6 +91,10 @@ std::size_t replaceRun(Pixel* pixels, std::size_t count, Pixel value, Pixel by) 
 
 void fillRun(Pixel* pixels, std::size_t count, Pixel value) {
     HWY_DYNAMIC_DISPATCH(FillRun)(pixels, count, value);
+}
+
+void reverseRun(Pixel* to, const Pixel* from, std::size_t count) {
+    HWY_DYNAMIC_DISPATCH(ReverseRun)(to, from, count);
 }
 
 } // namespace kaart

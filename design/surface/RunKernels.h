@@ -13,5 +13,7 @@ std::size_t differentRun(const Pixel* pixels, std::size_t count, Pixel value);
 /// Replaces the leading run of exactly this value and answers its length.
 std::size_t replaceRun(Pixel* pixels, std::size_t count, Pixel value, Pixel by);
 void fillRun(Pixel* pixels, std::size_t count, Pixel value);
+/// Copies a run in reverse order; the two must not overlap.
+void reverseRun(Pixel* to, const Pixel* from, std::size_t count);
 
 } // namespace kaart

@@ -11,6 +11,7 @@
 #include "design/tools/Clock.h"
 #include "design/window/AboutForm.h"
 #include "design/window/Canvas.h"
+#include "design/window/FilterMenu.h"
 #include "design/window/FloatPanel.h"
 #include "design/window/FramePanel.h"
 #include "design/window/LongTextPanel.h"
@@ -90,6 +91,7 @@ Main::Main(Design& design, WindowTable windows) : design_(design), inside_(new Q
     new TextLinePanel(*this, design_);
     new LongTextPanel(*this, design_);
     new FloatPanel(*this, design_);
+    new FilterMenu(*this, design_);
     fillControls(*inside_);
     showOrientation();
     loadSettings();

@@ -1,10 +1,15 @@
 #include "design/window/MenuTable.h"
 
+#include "filters/FilterTable.h"
+
 #include <QAction>
 #include <QMainWindow>
 #include <QMenuBar>
 
+#include <algorithm>
 #include <array>
+#include <iterator>
+#include <vector>
 
 namespace kaart {
 
@@ -17,7 +22,7 @@ constexpr MenuRow separator(const char* menu, const char* name, int index = sing
     return {Separator, menu, name, index, "-"};
 }
 
-constexpr std::array table = {
+constexpr std::array ownRows = {
     MenuRow{Menu, "", "File", single, "Bestand"},
     MenuRow{Entry, "File", "FileNew", single, "Nieuw", "Ctrl+N"},
     separator("File", "FileStreep1"),
@@ -54,45 +59,7 @@ constexpr std::array table = {
     MenuRow{Entry, "Tools", "ToolsFoto", single, "Eigen Afbeelding"},
 
     MenuRow{Menu, "", "Filters", single, "Filters"},
-    MenuRow{Entry, "Filters", "Filter", 3, "Inkleuren"},
-    MenuRow{Entry, "Filters", "Filter", 4, "Grayscale"},
-    MenuRow{Entry, "Filters", "Filter", 5, "Negative"},
-    MenuRow{Entry, "Filters", "Filter", 6, "Light"},
-    MenuRow{Entry, "Filters", "Filter", 7, "Dark"},
-    MenuRow{Entry, "Filters", "Filter", 8, "Sharpen"},
-    MenuRow{SubMenu, "Filters", "Filter", 9, "Contrast"},
-    MenuRow{Entry, "Filter(9)", "EditContrastConvert", 1, "Positive"},
-    MenuRow{Entry, "Filter(9)", "EditContrastConvert", 2, "Negative"},
-    MenuRow{Entry, "Filters", "Filter", 10, "Pixelize"},
-    MenuRow{Entry, "Filters", "Filter", 11, "Reliëf"},
-    MenuRow{SubMenu, "Filters", "Filter", 12, "Swap Colors"},
-    MenuRow{Entry, "Filter(12)", "EditSwap", 1, "RGB --> BRG"},
-    MenuRow{Entry, "Filter(12)", "EditSwap", 2, "RGB --> GBR"},
-    MenuRow{Entry, "Filter(12)", "EditSwap", 3, "RGB --> RBG"},
-    MenuRow{Entry, "Filter(12)", "EditSwap", 4, "RGB --> BGR"},
-    MenuRow{Entry, "Filter(12)", "EditSwap", 5, "RGB --> GRB"},
-    MenuRow{Entry, "Filters", "Filter", 13, "Scattered"},
-    MenuRow{Entry, "Filters", "Filter", 14, "Blur"},
-    MenuRow{Entry, "Filters", "Filter", 15, "Aquarel"},
-    MenuRow{Entry, "Filters", "Filter", 16, "Defuse"},
-    MenuRow{Entry, "Filters", "Filter", 17, "Add noise"},
-    MenuRow{Entry, "Filters", "Filter", 18, "Edge"},
-    MenuRow{Entry, "Filters", "Filter", 19, "Contour"},
-    MenuRow{Entry, "Filters", "Filter", 20, "Sepia"},
-    MenuRow{Entry, "Filters", "Filter", 21, "Connection"},
-    MenuRow{Entry, "Filters", "Filter", 22, "Erode"},
-    MenuRow{Entry, "Filters", "Filter", 23, "Saturation"},
-    MenuRow{Entry, "Filters", "Filter", 24, "Coldept"},
-    MenuRow{Entry, "Filters", "Filter", 25, "Dodge"},
-    MenuRow{Entry, "Filters", "Filter", 26, "Smooth"},
-    MenuRow{Entry, "Filters", "Filter", 27, "Modern"},
-
     MenuRow{Menu, "", "Flippen", single, "Omklappen"},
-    MenuRow{Entry, "Flippen", "Flip", 1, "Flip Horizontaal"},
-    MenuRow{Entry, "Flippen", "Flip", 2, "Flip Vertikaal"},
-    MenuRow{Entry, "Flippen", "Flip", 3, "Copy Linkerzijde"},
-    MenuRow{Entry, "Flippen", "Flip", 4, "Copy Bovenzijde"},
-    MenuRow{Entry, "Flippen", "Flip", 5, "Copy Hoeken"},
 
     MenuRow{Menu, "", "Gereedschap", single, "Tools"},
     MenuRow{Entry, "Gereedschap", "GereedschapTekstBallon", single, "Tekstballon"},
@@ -162,6 +129,18 @@ constexpr std::array table = {
     MenuRow{Entry, "CopySelectie", "SelectieCopy", 7, "Selectie met eigen foto"},
 };
 
+/// A filter's row as a row of the menu.
+MenuRow menuRow(const FilterRow& row) {
+    return {row.isSubMenu() ? SubMenu : Entry, row.menu, row.name, row.index, row.caption};
+}
+
+/// The own rows, and after them what stands in the menus of the filters.
+std::vector<MenuRow> wholeTable() {
+    std::vector<MenuRow> rows(ownRows.begin(), ownRows.end());
+    std::ranges::transform(filterTable(), std::back_inserter(rows), menuRow);
+    return rows;
+}
+
 QMenu* makeMenu(QMainWindow& window, const MenuRow& row, const QString& caption) {
     switch (row.kind) {
     case Menu:
@@ -187,6 +166,7 @@ void makeEntry(QMainWindow& window, const MenuRow& row, const QString& caption) 
 } // namespace
 
 std::span<const MenuRow> menuTable() {
+    static const std::vector<MenuRow> table = wholeTable();
     return table;
 }
 
@@ -196,7 +176,7 @@ QString fullName(const char* name, int index) {
 }
 
 void buildMenus(QMainWindow& window) {
-    for (const MenuRow& row : table) {
+    for (const MenuRow& row : menuTable()) {
         const QString caption = QString::fromUtf8(row.caption);
         if (row.kind == Entry || row.kind == Separator) {
             makeEntry(window, row, caption);

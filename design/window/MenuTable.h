@@ -29,7 +29,7 @@ struct MenuRow {
     bool checkable = false;
 };
 
-/// The complete tree, in menu order.
+/// The complete tree, every menu before and in the order of its entries.
 std::span<const MenuRow> menuTable();
 
 /// "Richting" and 1 give "Richting(1)"; an index of -1 leaves the name alone.

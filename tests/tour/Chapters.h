@@ -11,4 +11,7 @@ struct Chapter {
     void (*play)(User& user, kaart::Design& design);
 };
 
-std::span<const Chapter> chapters();
+// In the order in which they are played.
+std::span<const Chapter> cardChapters();
+std::span<const Chapter> filterChapters();
+std::span<const Chapter> lastChapters();

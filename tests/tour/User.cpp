@@ -215,13 +215,18 @@ void User::choosePopUp(const std::function<void()>& opens, const QString& entry,
 
 void User::chooseEntry(QMenu& menu, const QString& entry) const {
     for (QAction* action : menu.actions()) {
-        if (action->objectName() == entry && action->isEnabled()) {
-            const QPoint at = menu.actionGeometry(action).center();
-            QTest::mouseMove(&menu, at);
-            QTest::mouseClick(&menu, Qt::LeftButton, {}, at);
-            wait();
-            return;
+        const bool inside = action->menu() != nullptr && action->menu()->findChild<QAction*>(entry);
+        if (!inside && (action->objectName() != entry || !action->isEnabled())) {
+            continue;
         }
+        const QPoint at = menu.actionGeometry(action).center();
+        QTest::mouseMove(&menu, at);
+        QTest::mouseClick(&menu, Qt::LeftButton, {}, at);
+        wait();
+        if (inside) {
+            chooseEntry(*action->menu(), entry);
+        }
+        return;
     }
     fail(entry + QStringLiteral(" can't be chosen"));
     menu.close();

@@ -12,6 +12,22 @@
 
 #include <cstdio>
 
+namespace {
+
+bool play(std::span<const Chapter> chapters, User& user, kaart::Design& design) {
+    for (const Chapter& chapter : chapters) {
+        std::printf("tour: %s\n", chapter.name);
+        std::fflush(stdout);
+        chapter.play(user, design);
+        if (user.failed()) {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     if (argc != 2) {
@@ -32,11 +48,8 @@ int main(int argc, char** argv) {
     window.show();
     User user(folder);
     user.wait(300);
-    for (const Chapter& chapter : chapters()) {
-        std::printf("tour: %s\n", chapter.name);
-        std::fflush(stdout);
-        chapter.play(user, design);
-        if (user.failed()) {
+    for (const auto part : {cardChapters(), filterChapters(), lastChapters()}) {
+        if (!play(part, user, design)) {
             return 1;
         }
     }

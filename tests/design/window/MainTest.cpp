@@ -107,10 +107,22 @@ private slots:
                 QCOMPARE(desk.window.findChildren<QMenu*>(name).size(), 1);
             }
         }
-        QVERIFY(!desk.entry("Filter", 14).isEnabled());
         QVERIFY(!desk.entry("FileOpen").isEnabled());
         desk.entry("FileSave").trigger();
         QCOMPARE(opened, 1);
+    }
+
+    void AFilterShowsHowFarItIs() {
+        Desk desk;
+        auto& bar = control<SurfaceView>(desk.window, "Bar");
+        QSignalSpy shown(&desk.design, &Design::progressChanged);
+        desk.entry("Filter", 5).trigger();
+        QCOMPARE(desk.design.Pic().Point(200, 300), black);
+        QVERIFY(shown.size() >= 2);
+        QVERIFY(bar.isHidden());
+        QCOMPARE(bar.Image().size(), QSize(380, 18));
+        QCOMPARE(control<QLabel>(desk.window, "BarLabel").text(), "100%");
+        QVERIFY(QGuiApplication::overrideCursor() == nullptr);
     }
 
     void NothingOverlapsInEitherOrientation() {

@@ -1,11 +1,6 @@
 #include "tests/tour/Chapters.h"
+#include "tests/tour/Steps.h"
 
-#include "controls/ControlTable.h"
-
-#include <QAbstractButton>
-#include <QApplication>
-#include <QFileDialog>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QTimer>
 #include <QtTest>
@@ -17,14 +12,6 @@
 using namespace kaart;
 
 namespace {
-
-void pickColour(User& user, const char* sliders, ColorRef colour) {
-    const std::array parts = {redOf(colour), greenOf(colour), blueOf(colour)};
-    for (int i = 0; i < 3; ++i) {
-        user.slide(QStringLiteral("%1(%2)").arg(QLatin1String(sliders)).arg(i),
-                   parts.at(static_cast<std::size_t>(i)));
-    }
-}
 
 /// Points of a closed curve given in parts of a turn.
 template <typename Curve>
@@ -149,43 +136,6 @@ void newAndOpen(User& user, Design& design) {
     user.photo(QStringLiteral("geopend"));
     if (design.Pic().Image() != saved || design.OntwerpNaam != QStringLiteral("Drie ballonnen")) {
         user.fail(QStringLiteral("the opened design is not the saved one"));
-    }
-}
-
-/// Prints with an option, to a PDF file in the tour's folder.
-void print(User& user, const Design& design, int option, const QString& file) {
-    const QString path = QFileInfo(design.Folders.program).path() + QLatin1Char('/') + file;
-    user.during([&] { user.press(Qt::Key_P, Qt::ControlModifier); },
-                [&] {
-                    if (option == 0) {
-                        for (int preview : {3, 2, 1, 0}) {
-                            user.click(QStringLiteral("Option1(%1)").arg(preview));
-                            user.photo(QStringLiteral("afdrukken-%1").arg(preview + 1));
-                        }
-                        user.click(QStringLiteral("Check1"));
-                    } else {
-                        user.click(QStringLiteral("Option1(%1)").arg(option));
-                    }
-                    user.during([&] { user.click(QStringLiteral("PrintKnop")); },
-                                [&] {
-                                    auto* dialog = qobject_cast<QFileDialog*>(
-                                        QApplication::activeModalWidget());
-                                    if (dialog == nullptr) {
-                                        user.fail(QStringLiteral("no file is asked for"));
-                                        return;
-                                    }
-                                    auto* name = dialog->findChild<QLineEdit*>();
-                                    name->setFocus();
-                                    name->selectAll();
-                                    user.type(path);
-                                    if (option == 0) {
-                                        user.photo(QStringLiteral("pdf-kiezen"));
-                                    }
-                                    user.press(Qt::Key_Return);
-                                });
-                });
-    if (!QFile::exists(path)) {
-        user.fail(path + QStringLiteral(" was not printed"));
     }
 }
 
@@ -370,11 +320,18 @@ constexpr std::array table = {
     Chapter{"a poem from the library", placePoem},
     Chapter{"a piece copied", copyAPiece},
     Chapter{"a frame, and a closer look", frameIt},
+};
+
+constexpr std::array last = {
     Chapter{"goodbye", aboutAndGoodbye},
 };
 
 } // namespace
 
-std::span<const Chapter> chapters() {
+std::span<const Chapter> cardChapters() {
     return table;
+}
+
+std::span<const Chapter> lastChapters() {
+    return last;
 }

@@ -1,0 +1,63 @@
+#include "tests/tour/Steps.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLineEdit>
+
+#include <array>
+
+using namespace kaart;
+
+void pickColour(User& user, const char* sliders, ColorRef colour) {
+    const std::array parts = {redOf(colour), greenOf(colour), blueOf(colour)};
+    for (int i = 0; i < 3; ++i) {
+        user.slide(QStringLiteral("%1(%2)").arg(QLatin1String(sliders)).arg(i),
+                   parts.at(static_cast<std::size_t>(i)));
+    }
+}
+
+void pickFile(User& user, const QString& path, const QString& picture) {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr) {
+        user.fail(QStringLiteral("no file is asked for"));
+        return;
+    }
+    auto* name = dialog->findChild<QLineEdit*>();
+    name->setFocus();
+    name->selectAll();
+    user.type(path);
+    if (!picture.isEmpty()) {
+        user.photo(picture);
+    }
+    user.press(Qt::Key_Return);
+}
+
+QString tourFile(const Design& design, const QString& file) {
+    return QFileInfo(design.Folders.program).path() + QLatin1Char('/') + file;
+}
+
+void print(User& user, const Design& design, int option, const QString& file) {
+    const QString path = tourFile(design, file);
+    user.during([&] { user.press(Qt::Key_P, Qt::ControlModifier); },
+                [&] {
+                    if (option == 0) {
+                        for (int preview : {3, 2, 1, 0}) {
+                            user.click(QStringLiteral("Option1(%1)").arg(preview));
+                            user.photo(QStringLiteral("afdrukken-%1").arg(preview + 1));
+                        }
+                        user.click(QStringLiteral("Check1"));
+                    } else {
+                        user.click(QStringLiteral("Option1(%1)").arg(option));
+                    }
+                    user.during([&] { user.click(QStringLiteral("PrintKnop")); },
+                                [&] {
+                                    pickFile(user, path,
+                                             option == 0 ? QStringLiteral("pdf-kiezen")
+                                                         : QString());
+                                });
+                });
+    if (!QFile::exists(path)) {
+        user.fail(path + QStringLiteral(" was not printed"));
+    }
+}
