@@ -1,5 +1,8 @@
 #include "controls/Messages.h"
 
+#include <QFontDatabase>
+#include <QLabel>
+
 namespace kaart {
 
 bool askYesNo(QWidget* parent, const QString& title, const QString& question) {
@@ -15,6 +18,15 @@ void showMessage(QWidget* parent, const QString& title, const QString& text,
                  QMessageBox::Icon icon) {
     QMessageBox box(icon, title, text, QMessageBox::Ok, parent);
     box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+void showColumns(QWidget* parent, const QString& title, const QString& text) {
+    QMessageBox box(QMessageBox::NoIcon, title, text, QMessageBox::Ok, parent);
+    box.setTextFormat(Qt::PlainText);
+    for (QLabel* label : box.findChildren<QLabel*>()) {
+        label->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    }
     box.exec();
 }
 

@@ -16,4 +16,7 @@ bool askYesNo(QWidget* parent, const QString& title, const QString& question);
 void showMessage(QWidget* parent, const QString& title, const QString& text,
                  QMessageBox::Icon icon = QMessageBox::NoIcon);
 
+/// A message whose text stands in columns: in letters of one width.
+void showColumns(QWidget* parent, const QString& title, const QString& text);
+
 } // namespace kaart

@@ -2,8 +2,6 @@
 
 #include "design/surface/RunKernels.h"
 
-#include <algorithm>
-
 namespace kaart {
 
 namespace {
@@ -14,7 +12,7 @@ std::size_t unsignedOf(int length) {
 
 void copyRow(Pixel* to, const Pixel* from, int width) {
     if (to != from) {
-        std::copy_n(from, width, to);
+        copyRun(to, from, unsignedOf(width));
     }
 }
 

@@ -6,6 +6,7 @@
 #define KAART_FILTERS_PIXEL_RUN_INL_H
 #endif
 
+#include "design/surface/AlignedSteps-inl.h"
 #include "design/surface/ColorRef.h"
 
 #include <hwy/highway.h>
@@ -51,9 +52,16 @@ HWY_INLINE void ForEachChunk(Pixel* to, const Pixel* from, std::size_t count, st
 template <typename Map>
 HWY_INLINE void MapRun(Pixel* to, const Pixel* from, std::size_t count, const Map& map) {
     const PixelLanes d;
-    ForEachChunk<hn::MaxLanes(PixelLanes())>(
-        to, from, count, hn::Lanes(d),
-        [&](Pixel* out, const Pixel* in) { hn::StoreU(map(hn::LoadU(d, in)), d, out); });
+    const std::size_t lanes = hn::Lanes(d);
+    const auto mapVector = [&](Pixel* out, const Pixel* in)
+                               HWY_ATTR { hn::StoreU(map(hn::LoadU(d, in)), d, out); };
+    if (to != from && count >= lanes) {
+        alignedSteps(to, count, lanes,
+                     [&](std::size_t i) HWY_ATTR { mapVector(to + i, from + i); });
+    } else {
+        // In place no pixel may be mapped twice.
+        ForEachChunk<hn::MaxLanes(PixelLanes())>(to, from, count, lanes, mapVector);
+    }
 }
 
 /// blue + green + red of each pixel.

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <cstring>
 
 namespace kaart {
 
@@ -34,7 +33,7 @@ void combineRow(Pixel* target, const Pixel* source, std::size_t count, RasterOp 
     constexpr Pixel fourth = 0xFF000000U;
     switch (rop) {
     case RasterOp::Copy:
-        std::memcpy(target, source, count * sizeof(Pixel));
+        copyRun(target, source, count);
         break;
     case RasterOp::And:
         std::transform(source, source + count, target, target,

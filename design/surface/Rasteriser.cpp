@@ -258,4 +258,26 @@ void addRoundedFill(SpanMask& mask, const RoundedBox& shape) {
     walkSides(shape, wholeRow);
 }
 
+void roundedRuns(const RoundedBox& shape, int penWidth, std::vector<RowRun>& runs) {
+    const int top = grownByPen(shape.box, penWidth).top();
+    const auto rows = static_cast<std::size_t>(grownByPen(shape.box, penWidth).height());
+    runs.assign(rows, {shape.box.right() + penWidth, shape.box.left() - penWidth});
+    const auto widen = [&](int y, int left, int right) {
+        RowRun& run = runs[static_cast<std::size_t>(y - top)];
+        run = {std::min(run.left, left), std::max(run.right, right)};
+    };
+    walkRounded(shape, widen);
+    walkSides(shape, widen);
+    if (penWidth <= 1) {
+        return;
+    }
+    const std::vector<RowRun> thin = runs;
+    for (const QRect& cap : capRuns(penWidth)) {
+        for (int y = shape.box.top(); y <= shape.box.bottom(); ++y) {
+            const RowRun& run = thin[static_cast<std::size_t>(y - top)];
+            widen(y + cap.y(), run.left + cap.left(), run.right + cap.right());
+        }
+    }
+}
+
 } // namespace kaart

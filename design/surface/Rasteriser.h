@@ -6,6 +6,7 @@
 #include <QRect>
 
 #include <functional>
+#include <vector>
 
 namespace kaart {
 
@@ -43,5 +44,14 @@ void addRoundedOutline(SpanMask& mask, const RoundedBox& shape, int penWidth,
                        const ArcTest& inArc = {});
 /// All pixels between the outline's pixels of each row, the outline included.
 void addRoundedFill(SpanMask& mask, const RoundedBox& shape);
+
+/// The columns left to right of one row, both included.
+struct RowRun {
+    int left;
+    int right;
+};
+
+/// Fill and outline together, unclipped, as one run for each row of grownByPen(box), from its top.
+void roundedRuns(const RoundedBox& shape, int penWidth, std::vector<RowRun>& runs);
 
 } // namespace kaart

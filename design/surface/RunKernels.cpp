@@ -1,11 +1,13 @@
 #include "design/surface/RunKernels.h"
 
+#include <algorithm>
+
 // Highway compiles this file once for every kind of processor.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "design/surface/RunKernels.cpp"
 #include <hwy/foreach_target.h>
 
-#include <hwy/highway.h>
+#include "design/surface/AlignedSteps-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace kaart {
@@ -46,27 +48,35 @@ std::size_t ReplaceRun(Pixel* pixels, std::size_t count, Pixel value, Pixel by) 
 
 void FillRun(Pixel* pixels, std::size_t count, Pixel value) {
     const Lanes d;
-    const std::size_t lanes = hn::Lanes(d);
+    if (count < hn::Lanes(d)) {
+        std::fill(pixels, pixels + count, value);
+        return;
+    }
     const auto wanted = hn::Set(d, value);
-    std::size_t i = 0;
-    for (; i + lanes <= count; i += lanes) {
-        hn::StoreU(wanted, d, pixels + i);
+    alignedSteps(pixels, count, hn::Lanes(d),
+                 [&](std::size_t i) HWY_ATTR { hn::StoreU(wanted, d, pixels + i); });
+}
+
+void CopyRun(Pixel* to, const Pixel* from, std::size_t count) {
+    const Lanes d;
+    if (count < hn::Lanes(d)) {
+        std::copy(from, from + count, to);
+        return;
     }
-    for (; i < count; ++i) {
-        pixels[i] = value;
-    }
+    alignedSteps(to, count, hn::Lanes(d),
+                 [&](std::size_t i) HWY_ATTR { hn::StoreU(hn::LoadU(d, from + i), d, to + i); });
 }
 
 void ReverseRun(Pixel* to, const Pixel* from, std::size_t count) {
     const Lanes d;
     const std::size_t lanes = hn::Lanes(d);
-    std::size_t i = 0;
-    for (; i + lanes <= count; i += lanes) {
+    if (count < lanes) {
+        std::reverse_copy(from, from + count, to);
+        return;
+    }
+    alignedSteps(to, count, lanes, [&](std::size_t i) HWY_ATTR {
         hn::StoreU(hn::Reverse(d, hn::LoadU(d, from + count - i - lanes)), d, to + i);
-    }
-    for (; i < count; ++i) {
-        to[i] = from[count - 1 - i];
-    }
+    });
 }
 
 } // namespace HWY_NAMESPACE
@@ -80,6 +90,7 @@ HWY_EXPORT(DifferentRun);
 HWY_EXPORT(ReplaceRun);
 HWY_EXPORT(FillRun);
 HWY_EXPORT(ReverseRun);
+HWY_EXPORT(CopyRun);
 
 std::size_t differentRun(const Pixel* pixels, std::size_t count, Pixel value) {
     return HWY_DYNAMIC_DISPATCH(DifferentRun)(pixels, count, value);
@@ -95,6 +106,10 @@ void fillRun(Pixel* pixels, std::size_t count, Pixel value) {
 
 void reverseRun(Pixel* to, const Pixel* from, std::size_t count) {
     HWY_DYNAMIC_DISPATCH(ReverseRun)(to, from, count);
+}
+
+void copyRun(Pixel* to, const Pixel* from, std::size_t count) {
+    HWY_DYNAMIC_DISPATCH(CopyRun)(to, from, count);
 }
 
 } // namespace kaart

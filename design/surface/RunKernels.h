@@ -15,5 +15,7 @@ std::size_t replaceRun(Pixel* pixels, std::size_t count, Pixel value, Pixel by);
 void fillRun(Pixel* pixels, std::size_t count, Pixel value);
 /// Copies a run in reverse order; the two must not overlap.
 void reverseRun(Pixel* to, const Pixel* from, std::size_t count);
+/// Copies a short run, such as a row; the two must not overlap.
+void copyRun(Pixel* to, const Pixel* from, std::size_t count);
 
 } // namespace kaart

@@ -11,6 +11,7 @@
 #include "design/tools/Clock.h"
 #include "design/window/AboutForm.h"
 #include "design/window/Canvas.h"
+#include "design/window/CanvasMenu.h"
 #include "design/window/FilterMenu.h"
 #include "design/window/FloatPanel.h"
 #include "design/window/FramePanel.h"
@@ -84,6 +85,7 @@ Main::Main(Design& design, WindowTable windows) : design_(design), inside_(new Q
     connectMenus(windows);
     buildPanels();
     new ShapeMenu(*this, design_);
+    new CanvasMenu(*this, design_, *canvas_);
     new ToolButtons(*this, design_, windows);
     connectControls();
     new FramePanel(*this, design_);
