@@ -1,5 +1,6 @@
 #include "controls/platform/PortalGrab.h"
 
+#include "controls/platform/Portal.h"
 #include "design/surface/PictureGate.h"
 #include "design/surface/PixelSurface.h"
 
@@ -16,18 +17,14 @@ namespace kaart {
 
 namespace {
 
-constexpr int callLimit = 5000;    // ms
-constexpr int answerLimit = 20000; // ms; the user may have to say yes first
-
 const QString tokenStart = QStringLiteral("kaartwerkje");
 
 /// The local file of an answer; empty when it brings none.
 QString pictureFile(const QDBusMessage& answer) {
-    const QVariantList parts = answer.arguments();
-    if (answer.signature() != QLatin1String("ua{sv}") || parts.value(0).toUInt() != 0) {
+    if (!isGranted(answer)) {
         return {};
     }
-    const auto results = qdbus_cast<QVariantMap>(parts[1]);
+    const auto results = qdbus_cast<QVariantMap>(answer.arguments().at(1));
     return QUrl(results.value(QStringLiteral("uri")).toString()).toLocalFile();
 }
 
@@ -41,12 +38,10 @@ PortalGrab::PortalGrab(Bus bus) : bus_(bus) {
 void PortalGrab::start() {
     stop();
     wish_ = tokenStart + QString::number(++wishes_);
-    limit_.start(answerLimit);
-    QDBusConnection bus = bus_();
+    limit_.start(portalAnswerLimit);
+    const QDBusConnection bus = bus_();
     if (bus.isConnected()) {
-        // Any path: the answer may come before the call that names its path has returned.
-        bus.connect(QString(), QString(), QStringLiteral("org.freedesktop.portal.Request"),
-                    QStringLiteral("Response"), this, SLOT(takeAnswer(QDBusMessage)));
+        listenToPortal(bus, this, SLOT(takeAnswer(QDBusMessage)));
         call(bus);
     } else {
         QMetaObject::invokeMethod(this, &PortalGrab::giveUp, Qt::QueuedConnection);
@@ -54,14 +49,11 @@ void PortalGrab::start() {
 }
 
 void PortalGrab::call(const QDBusConnection& bus) {
-    QDBusMessage message = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.portal.Desktop"),
-        QStringLiteral("/org/freedesktop/portal/desktop"),
-        QStringLiteral("org.freedesktop.portal.Screenshot"), QStringLiteral("Screenshot"));
+    QDBusMessage message = portalCall("Screenshot", "Screenshot");
     message << QString()
             << QVariantMap{{QStringLiteral("handle_token"), wish_},
                            {QStringLiteral("interactive"), false}};
-    auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(message, callLimit), this);
+    auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(message, portalCallLimit), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, wish = wish_] {
         watcher->deleteLater();
         if (watcher->isError() && wish == wish_) {
@@ -84,7 +76,7 @@ void PortalGrab::giveUp() {
 }
 
 void PortalGrab::takeAnswer(const QDBusMessage& message) {
-    const QString token = message.path().section(QLatin1Char('/'), -1);
+    const QString token = tokenOf(message);
     if (!token.startsWith(tokenStart)) {
         return;
     }

@@ -1,6 +1,7 @@
 #include "controls/platform/PortalWallpaper.h"
 
-#include <QDBusMessage>
+#include "controls/platform/Portal.h"
+
 #include <QDBusPendingCallWatcher>
 #include <QDBusUnixFileDescriptor>
 #include <QEventLoop>
@@ -11,18 +12,13 @@ namespace kaart {
 
 namespace {
 
-constexpr int callLimit = 5000;    // ms
-constexpr int answerLimit = 20000; // ms; the user may have to say yes first
-
 /// Waits for the one answer that belongs to a wish.
 class Outcome : public QObject {
     Q_OBJECT
 
 public:
-    Outcome(QDBusConnection bus, QString wish) : wish_(std::move(wish)) {
-        // Any path: the answer may come before the call that names its path has returned.
-        bus.connect(QString(), QString(), QStringLiteral("org.freedesktop.portal.Request"),
-                    QStringLiteral("Response"), this, SLOT(take(QDBusMessage)));
+    Outcome(const QDBusConnection& bus, QString wish) : wish_(std::move(wish)) {
+        listenToPortal(bus, this, SLOT(take(QDBusMessage)));
     }
 
     bool of(const QDBusPendingCall& call) {
@@ -32,15 +28,15 @@ public:
                 loop_.quit();
             }
         });
-        QTimer::singleShot(answerLimit, &loop_, &QEventLoop::quit);
+        QTimer::singleShot(portalAnswerLimit, &loop_, &QEventLoop::quit);
         loop_.exec(QEventLoop::ExcludeUserInputEvents);
         return done_;
     }
 
 private slots:
     void take(const QDBusMessage& message) {
-        if (message.path().section(QLatin1Char('/'), -1) == wish_) {
-            done_ = message.arguments().value(0).toUInt() == 0;
+        if (tokenOf(message) == wish_) {
+            done_ = isGranted(message);
             loop_.quit();
         }
     }
@@ -62,15 +58,12 @@ bool setPortalWallpaper(const QString& file, const QDBusConnection& bus) {
     }
     static int wishes = 0;
     const QString wish = QStringLiteral("bureaublad%1").arg(++wishes);
-    QDBusMessage message = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.portal.Desktop"),
-        QStringLiteral("/org/freedesktop/portal/desktop"),
-        QStringLiteral("org.freedesktop.portal.Wallpaper"), QStringLiteral("SetWallpaperFile"));
+    QDBusMessage message = portalCall("Wallpaper", "SetWallpaperFile");
     message << QString() << QVariant::fromValue(QDBusUnixFileDescriptor(picture.handle()))
             << QVariantMap{{QStringLiteral("handle_token"), wish},
                            {QStringLiteral("show-preview"), false},
                            {QStringLiteral("set-on"), QStringLiteral("background")}};
-    return Outcome(bus, wish).of(bus.asyncCall(message, callLimit));
+    return Outcome(bus, wish).of(bus.asyncCall(message, portalCallLimit));
 }
 
 } // namespace kaart
