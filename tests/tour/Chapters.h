@@ -14,4 +14,5 @@ struct Chapter {
 // In the order in which they are played.
 std::span<const Chapter> cardChapters();
 std::span<const Chapter> filterChapters();
+std::span<const Chapter> paperChapters();
 std::span<const Chapter> lastChapters();

@@ -1,7 +1,11 @@
 #include "tests/tour/Chapters.h"
 #include "tests/tour/Steps.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+
 #include <array>
+#include <cmath>
 
 using namespace kaart;
 
@@ -48,8 +52,44 @@ void tryFilters(User& user, Design& design) {
     }
 }
 
+void runColours(User& user, Design& design) {
+    pickColour(user, "HScroll1", RGB(250, 214, 120));
+    pickColour(user, "VulScroll", RGB(150, 60, 110));
+    user.choosePopUp([&] { user.click(QStringLiteral("TekenKnop(8)")); },
+                     QStringLiteral("GradientRichting(4)"), QStringLiteral("verloop-menu"));
+    if (std::abs(redOf(design.Pic().Point(2, 2)) - 250) > 5) {
+        user.fail(QStringLiteral("the colours do not begin with the drawing colour"));
+    }
+    user.press(Qt::Key_Z, Qt::ControlModifier);
+    user.choosePopUp([&] { user.click(QStringLiteral("TekenKnop(8)")); },
+                     QStringLiteral("GradientRichting(5)"));
+    user.photo(QStringLiteral("verloop-rond"));
+    user.press(Qt::Key_Z, Qt::ControlModifier);
+    tryOut(user, design, "Tools", "ToolsRanden(4)", "buitenrand");
+}
+
+void tellAround(User& user, Design& design) {
+    const auto readBox = [&](const std::function<void()>& opens, const char* picture) {
+        user.during(opens, [&] {
+            user.photo(QString::fromUtf8(picture));
+            user.press(Qt::Key_Return);
+        });
+    };
+    readBox([&] { user.press(Qt::Key_C, Qt::ControlModifier); }, "clipboard");
+    if (QGuiApplication::clipboard()->image().convertToFormat(QImage::Format_RGB32) !=
+        design.Pic().Image()) {
+        user.fail(QStringLiteral("the clipboard has another picture"));
+    }
+    readBox([&] { user.menu(QStringLiteral("Help"), QStringLiteral("Helpscreen(1)")); },
+            "schermresolutie");
+    readBox([&] { user.menu(QStringLiteral("Help"), QStringLiteral("HelpSpecialeTekens")); },
+            "speciale-tekens");
+}
+
 constexpr std::array table = {
     Chapter{"filters and flips", tryFilters},
+    Chapter{"colour runs and edges", runColours},
+    Chapter{"clipboard and help", tellAround},
 };
 
 } // namespace

@@ -48,7 +48,7 @@ int main(int argc, char** argv) {
     window.show();
     User user(folder);
     user.wait(300);
-    for (const auto part : {cardChapters(), filterChapters(), lastChapters()}) {
+    for (const auto part : {cardChapters(), filterChapters(), paperChapters(), lastChapters()}) {
         if (!play(part, user, design)) {
             return 1;
         }
