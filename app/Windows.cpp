@@ -1,10 +1,13 @@
 #include "app/Windows.h"
 
 #include "addresses/window/AdresForm.h"
+#include "design/session/Design.h"
 #include "output/window/AfdrukForm.h"
 #include "output/window/OpenForm.h"
 #include "output/window/SaveForm.h"
 #include "pictures/window/CopyDialog.h"
+#include "puzzle/window/PuzzelForm.h"
+#include "puzzle/window/ScoreForm.h"
 
 #include <array>
 
@@ -17,12 +20,18 @@ void open(Design& design, QWidget* parent) {
     Form(design, parent).exec();
 }
 
+void openScores(Design& design, QWidget* parent) {
+    ScoreForm(design, design.Puzzel, parent).exec();
+}
+
 constexpr std::array table = {
     WindowRow{"FileOpen", open<OpenForm>},
     WindowRow{"FileSave", open<SaveForm>},
     WindowRow{"FilePrint", open<AfdrukForm>},
     WindowRow{"GereedschapAdressen", open<AdresForm>},
     WindowRow{"SelectieCopy(7)", open<CopyDialog>},
+    WindowRow{"StartKnop", open<PuzzelForm>},
+    WindowRow{"ScoreKnop", openScores},
 };
 
 } // namespace

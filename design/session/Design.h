@@ -5,6 +5,7 @@
 #include "design/session/Progress.h"
 #include "design/session/TextStyle.h"
 #include "design/surface/PixelSurface.h"
+#include "puzzle/PuzzleResult.h"
 
 #include <QObject>
 #include <QString>
@@ -59,6 +60,7 @@ public:
     int GrijpY = 0;
     bool FilterBusy = false; ///< a filter on the array path is running
     int FilterPercent = 0;   ///< how far it has come
+    PuzzleResult Puzzel; ///< the puzzle's choice, and its last game
 
     // What the option panels say.
     ColorRef Tekenkleur = RGB(60, 60, 60);

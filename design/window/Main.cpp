@@ -19,6 +19,7 @@
 #include "design/window/Magnifier.h"
 #include "design/window/MenuTable.h"
 #include "design/window/PanelTable.h"
+#include "design/window/PuzzlePanel.h"
 #include "design/window/SelectionMenu.h"
 #include "design/window/ShapeMenu.h"
 #include "design/window/Sliders.h"
@@ -43,12 +44,6 @@ namespace {
 constexpr int clockInterval = 1000; // ms
 constexpr int canvasLeft = 6375;
 constexpr int canvasTop = 210;
-
-/// Controls whose work is still to come; each leaves this list with the tool that it serves.
-constexpr std::array notYet = {
-    "StartKnop",
-    "ScoreKnop",
-};
 
 /// Checks that only certain tools switch on.
 constexpr std::array toolChecks = {"Check2", "Check3", "Check4"};
@@ -94,6 +89,7 @@ Main::Main(Design& design, WindowTable windows) : design_(design), inside_(new Q
     new LongTextPanel(*this, design_);
     new FloatPanel(*this, design_);
     new FilterMenu(*this, design_);
+    new PuzzlePanel(*this, design_, windows);
     fillControls(*inside_);
     showOrientation();
     loadSettings();
@@ -109,9 +105,6 @@ void Main::buildPanels() {
     setBackColor(control<QLabel>(*inside_, "Label1"), RGB(235, 235, 235));
     for (const char* hidden : {"Frame7", "Frame10", "Bar"}) {
         control<QWidget>(*inside_, hidden).hide();
-    }
-    for (const char* name : notYet) {
-        control<QWidget>(*inside_, name).setEnabled(false);
     }
     for (const char* name : toolChecks) {
         control<QCheckBox>(*inside_, name).setEnabled(false);

@@ -26,7 +26,8 @@ using namespace kaart;
 namespace {
 
 int opened = 0;
-constexpr WindowRow windows[] = {{"FileSave", [](Design&, QWidget*) { ++opened; }}};
+constexpr WindowRow windows[] = {{"FileSave", [](Design&, QWidget*) { ++opened; }},
+                                 {"StartKnop", [](Design&, QWidget*) { ++opened; }}};
 
 /// A program folder, a design and its main window.
 struct Desk {
@@ -256,6 +257,23 @@ private slots:
         QCOMPARE(control<QComboBox>(desk.window, "Combo6").currentText(), QStringLiteral("S"));
         QCOMPARE(control<QLineEdit>(desk.window, "Text1").text(), QStringLiteral("Mijn Tekst"));
         QCOMPARE(desk.design.Pic().Point(1, 1), black);
+    }
+
+    void ThePuzzleOpensWithThePanelsChoice() {
+        Desk desk;
+        opened = 0;
+        const PuzzleResult& choice = desk.design.Puzzel;
+        QVERIFY(!control<VistaButton>(desk.window, "ScoreKnop").isEnabled()); // has no window here
+        auto& start = control<VistaButton>(desk.window, "StartKnop");
+        start.click();
+        QCOMPARE((QList{choice.PuzzleCols, choice.PuzzleRows, choice.PuzzleLevel, opened}),
+                 (QList{3, 3, 1, 1}));
+        control<QComboBox>(desk.window, "Combo4").setCurrentText(QStringLiteral("6"));
+        control<QComboBox>(desk.window, "Combo5").setCurrentText(QStringLiteral("4"));
+        control<QComboBox>(desk.window, "Combo6").setCurrentText(QStringLiteral("M"));
+        start.click();
+        QCOMPARE((QList{choice.PuzzleCols, choice.PuzzleRows, choice.PuzzleLevel, opened}),
+                 (QList{6, 4, 2, 2}));
     }
 
     void ANewDesignIsAskedFor() {
