@@ -20,7 +20,7 @@ namespace HWY_NAMESPACE {
 class ThreeRows {
 public:
     explicit ThreeRows(std::size_t count) {
-        rows_.fill(std::vector<std::uint16_t>(count + 2 * HWY_MAX_BYTES));
+        rows_.fill(std::vector<std::uint16_t>(count + 2 * words));
     }
     std::uint16_t* operator[](int y) { return rows_[static_cast<std::size_t>(y % 3)].data(); }
 
@@ -82,7 +82,7 @@ void Aquarel(PixelSpan PixelBuf, ConstPixelSpan SourceBuf, RowRhythm& rhythm) {
     ThreeRows source(count);
     ThreeRows mean(count);
     ThreeRows deviation(count);
-    std::vector<std::uint16_t> chosen(count + 2 * HWY_MAX_BYTES);
+    std::vector<std::uint16_t> chosen(count + 2 * words);
     for (int y = 0; y < PixelBuf.height + 2;
          ++y) { // the row that comes in; two rows up one goes out
         if (y < PixelBuf.height) {

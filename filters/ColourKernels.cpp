@@ -15,16 +15,16 @@ using ByteTable = std::array<std::uint8_t, 256>;
 using SpreadTable = std::array<std::int16_t, 256>;
 
 inline constexpr PixelLanes d;
-inline constexpr ByteLanes bytes;
-inline constexpr WordLanes words;
-inline constexpr ShortLanes shorts;
+inline constexpr ByteLanes byteLanes;
+inline constexpr WordLanes wordLanes;
+inline constexpr ShortLanes shortLanes;
 
 /// Blue and red of each pixel as signed words, and green with the fourth byte.
 HWY_INLINE hn::Vec<ShortLanes> BlueAndRed(Pixels x) {
-    return hn::BitCast(shorts, hn::And(x, hn::Set(d, 0x00FF00FFU)));
+    return hn::BitCast(shortLanes, hn::And(x, hn::Set(d, 0x00FF00FFU)));
 }
 HWY_INLINE hn::Vec<ShortLanes> GreenAndFourth(Pixels x) {
-    return hn::BitCast(shorts, hn::ShiftRight<8>(hn::BitCast(words, x)));
+    return hn::BitCast(shortLanes, hn::ShiftRight<8>(hn::BitCast(wordLanes, x)));
 }
 /// Puts both back together; every word must be within 0 to 255.
 HWY_INLINE Pixels Together(hn::Vec<ShortLanes> blueAndRed, hn::Vec<ShortLanes> greenAndFourth) {
@@ -41,17 +41,17 @@ HWY_INLINE Pixels ClampedTogether(hn::Vec<ShortLanes> blueAndRed,
     return Pixels{_mm256_shuffle_epi8(packed, order)};
 #else
     const auto clamped = [](hn::Vec<ShortLanes> v) {
-        return hn::Min(hn::Max(v, hn::Zero(shorts)), hn::Set(shorts, std::int16_t{255}));
+        return hn::Min(hn::Max(v, hn::Zero(shortLanes)), hn::Set(shortLanes, std::int16_t{255}));
     };
     return Together(clamped(blueAndRed), clamped(greenAndFourth));
 #endif
 }
 HWY_INLINE Pixels FourthOf(Pixels x) {
-    return hn::AndNot(hn::Set(d, colourBytes), x);
+    return hn::AndNot(hn::Set(d, colours), x);
 }
 
 void NegativeRun(Pixel* to, const Pixel* from, std::size_t count) {
-    MapRun(to, from, count, [](Pixels x) { return hn::Xor(x, hn::Set(d, colourBytes)); });
+    MapRun(to, from, count, [](Pixels x) { return hn::Xor(x, hn::Set(d, colours)); });
 }
 
 void GrayRun(Pixel* to, const Pixel* from, std::size_t count) {
@@ -61,22 +61,24 @@ void GrayRun(Pixel* to, const Pixel* from, std::size_t count) {
 
 void DoubleRun(Pixel* to, const Pixel* from, std::size_t count) {
     MapRun(to, from, count, [](Pixels x) {
-        const auto colours = hn::And(x, hn::Set(d, colourBytes));
-        return hn::BitCast(d, hn::SaturatedAdd(hn::BitCast(bytes, x), hn::BitCast(bytes, colours)));
+        const auto doubled = hn::And(x, hn::Set(d, colours));
+        return hn::BitCast(
+            d, hn::SaturatedAdd(hn::BitCast(byteLanes, x), hn::BitCast(byteLanes, doubled)));
     });
 }
 
 void SepiaRun(Pixel* to, const Pixel* from, std::size_t count) {
     MapRun(to, from, count, [](Pixels x) {
-        const auto colour = hn::BitCast(bytes, x);
-        const auto offset = hn::BitCast(bytes, hn::Set(d, 0x00002850U)); // red 0, green 40, blue 80
+        const auto colour = hn::BitCast(byteLanes, x);
+        const auto offset =
+            hn::BitCast(byteLanes, hn::Set(d, 0x00002850U)); // red 0, green 40, blue 80
         const auto away =
             hn::Or(hn::SaturatedSub(colour, offset), hn::SaturatedSub(offset, colour));
         // Each byte against the one above it: green against red, blue against green. A cleared
         // green clears blue, too: whatever blue is, it is above 0 or 0 already.
-        const auto above = hn::BitCast(bytes, hn::ShiftRight<8>(hn::BitCast(d, away)));
+        const auto above = hn::BitCast(byteLanes, hn::ShiftRight<8>(hn::BitCast(d, away)));
         const auto small =
-            hn::BitCast(d, hn::VecFromMask(bytes, hn::Eq(hn::Min(away, above), away)));
+            hn::BitCast(d, hn::VecFromMask(byteLanes, hn::Eq(hn::Min(away, above), away)));
         const auto keep = hn::Or(small, hn::Set(d, 0xFFFF0000U));
         const auto green = hn::Or(hn::ShiftRight<8>(keep), hn::Set(d, 0xFFFFFF00U));
         return hn::And(hn::BitCast(d, away), hn::And(keep, green));
@@ -90,12 +92,12 @@ void ShuffleRun(Pixel* to, const Pixel* from, std::size_t count, Pixel pattern) 
 void ScaleRun(Pixel* to, const Pixel* from, std::size_t count, std::int16_t factor, bool darker) {
     const auto run = [&](const auto& meet) {
         MapRun(to, from, count, [&](Pixels x) {
-            const auto blueAndRed = hn::MulFixedPoint15(BlueAndRed(x), hn::Set(shorts, factor));
+            const auto blueAndRed = hn::MulFixedPoint15(BlueAndRed(x), hn::Set(shortLanes, factor));
             // The fourth byte's word is multiplied by 0.
             const auto green = hn::MulFixedPoint15(
-                GreenAndFourth(x), hn::BitCast(shorts, hn::Set(d, static_cast<Pixel>(factor))));
-            const auto change = hn::BitCast(bytes, Together(blueAndRed, green));
-            return hn::BitCast(d, meet(hn::BitCast(bytes, x), change));
+                GreenAndFourth(x), hn::BitCast(shortLanes, hn::Set(d, static_cast<Pixel>(factor))));
+            const auto change = hn::BitCast(byteLanes, Together(blueAndRed, green));
+            return hn::BitCast(d, meet(hn::BitCast(byteLanes, x), change));
         });
     };
     if (darker) {
@@ -110,9 +112,9 @@ void SaturateRun(Pixel* to, const Pixel* from, std::size_t count, std::int16_t f
         const auto spread = [&](auto channels, auto means) {
             const auto distance = hn::Sub(channels, means);
             return hn::Add(channels, hn::MulFixedPoint15(hn::Add(distance, distance),
-                                                         hn::Set(shorts, factor)));
+                                                         hn::Set(shortLanes, factor)));
         };
-        const auto means = hn::BitCast(shorts, ShuffleBytes(MeanOfThree(x), 0x80008000U));
+        const auto means = hn::BitCast(shortLanes, ShuffleBytes(MeanOfThree(x), 0x80008000U));
         const auto green = GreenAndFourth(x);
         // The fourth byte is its own mean and so stays.
         return ClampedTogether(spread(BlueAndRed(x), means),
@@ -124,7 +126,7 @@ void TableRun(Pixel* to, const Pixel* from, std::size_t count, const ByteTable& 
     for (std::size_t i = 0; i < count; ++i) {
         const Pixel pixel = from[i];
         to[i] = Pixel{table[pixel & 0xFFU]} | Pixel{table[pixel >> 8 & 0xFFU]} << 8 |
-                Pixel{table[pixel >> 16 & 0xFFU]} << 16 | (pixel & ~colourBytes);
+                Pixel{table[pixel >> 16 & 0xFFU]} << 16 | (pixel & ~colours);
     }
 }
 
@@ -237,7 +239,7 @@ void MergeRun(Pixel* to, const Pixel* from, const Pixel* above, std::size_t coun
     const std::size_t lanes = hn::Lanes(d);
     const auto merged = [](auto tag, const Pixel* below, const Pixel* over) {
         return hn::Or(hn::Or(hn::Not(hn::LoadU(tag, over)), hn::LoadU(tag, below)),
-                      hn::Set(tag, ~colourBytes));
+                      hn::Set(tag, ~colours));
     };
     std::size_t i = 0;
     for (; i + lanes <= count; i += lanes) {

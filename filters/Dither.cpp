@@ -1,8 +1,9 @@
 #include "filters/Dither.h"
 
+#include "filters/ColourFilters.h"
+
 #include <algorithm>
 #include <array>
-#include <numeric>
 #include <vector>
 
 // Highway compiles this file once for every kind of processor.
@@ -16,56 +17,126 @@ HWY_BEFORE_NAMESPACE();
 namespace kaart {
 namespace HWY_NAMESPACE {
 
-/// The gray values of a row, (B + G + R) \ 3. Answers their sum.
-std::uint32_t GrayRow(const Pixel* row, std::size_t width, std::uint16_t* gray) {
+/// The gray values of a row, (B + G + R) \ 3.
+void GrayRow(const Pixel* row, std::size_t width, std::uint16_t* gray) {
     for (std::size_t x = 0; x < width; ++x) {
         const Pixel pixel = row[x];
-        const auto parts = static_cast<std::uint16_t>((pixel & 0xFFU) + (pixel >> 8 & 0xFFU) +
-                                                      (pixel >> 16 & 0xFFU));
-        gray[x] = static_cast<std::uint16_t>(parts * 21846U >> 16); // a third
-    }
-    return std::accumulate(gray, gray + width, std::uint32_t{0});
-}
-
-#if HWY_TARGET != HWY_SCALAR
-
-/// A row of pixels turns black where `white` is 0 and white where it has all bits set.
-void storeRow(const std::uint16_t* white, std::size_t width, Pixel* row) {
-    for (std::size_t x = 0; x < width; ++x) {
-        const auto all = static_cast<Pixel>(static_cast<std::int16_t>(white[x]));
-        row[x] = (row[x] & ~colours) | (all & colours);
+        const auto sum = static_cast<std::uint16_t>((pixel & 0xFFU) + (pixel >> 8 & 0xFFU) +
+                                                    (pixel >> 16 & 0xFFU));
+        gray[x] = static_cast<std::uint16_t>(sum * 21846U >> 16); // a third
     }
 }
 
-/// Stucki's diffusion on a wave front: one row in each lane, each three columns behind the one
-/// above. An error is kept in shares of 1, 2, 4 and 8 42nds; each sum of shares is gathered while
-/// its row goes by and handed down when it is complete.
+using V = SignedWordVector;
+
+/// n times a fraction in 65536ths, truncated toward zero; the fraction is a little too large.
+inline V fractionOf(V n, V fraction) {
+    return hn::Sub(hn::MulHigh(n, fraction), hn::BroadcastSignBit(n));
+}
+
+/// Of a row that goes by: a (x - 2) + b (x - 1) + c x + b (x + 1) + a (x + 2).
+class Gatherer {
+public:
+    explicit Gatherer(V zero) : pending_{zero, zero, zero, zero} {}
+
+    V next(V a, V b, V c) {
+        const V sum = hn::Add(pending_[0], a);
+        pending_[0] = hn::Add(pending_[1], b);
+        pending_[1] = hn::Add(pending_[2], c);
+        pending_[2] = hn::Add(pending_[3], b);
+        pending_[3] = a;
+        return sum;
+    }
+
+private:
+    V pending_[4];
+};
+
+/// The errors on their way on a wave front: a row in each lane, each three columns behind the one
+/// above. A row's shares for the row below it are complete when that one needs them, the shares for
+/// the row after that one three steps earlier.
+class Errors {
+public:
+    explicit Errors(V zero)
+        : below_(zero),
+          farBelow_(zero),
+          toNext_(zero),
+          toSecond_{zero, zero, zero, zero},
+          fromLeft_(zero),
+          fromSecondLeft_(zero) {}
+
+    /// What waits for the pixels at hand. The arguments wait, from above the band, for the first
+    /// row, and for the second row but for what the first row gives it.
+    V waiting(std::int16_t forFirst, std::int16_t forSecond) {
+        toNext_ = hn::Add(toNext_, movedUp<2>(d_, toSecond_[0], hn::Set(d_, forSecond)));
+        return hn::Add(fromLeft_, movedUp<2>(d_, toNext_, hn::Set(d_, forFirst)));
+    }
+    // The same for the two rows below the band.
+    std::int16_t forNext() const { return hn::ExtractLane(toNext_, words - 1); }
+    std::int16_t forSecond() const { return hn::ExtractLane(toSecond_[0], words - 1); }
+
+    /// Spreads the errors of the pixels at hand; the step is done.
+    void spread(V error) {
+        const V one = share<1>(error);
+        const V two = share<2>(error);
+        const V four = share<4>(error);
+        const V eight = share<8>(error);
+        fromLeft_ = hn::Add(eight, fromSecondLeft_);
+        fromSecondLeft_ = four;
+        toNext_ = below_.next(two, four, eight);
+        for (int step = 0; step < 3; ++step) {
+            toSecond_[step] = toSecond_[step + 1];
+        }
+        toSecond_[3] = farBelow_.next(one, two, four);
+    }
+
+private:
+    template <int weight>
+    V share(V error) const { // in 42nds
+        return fractionOf(error, hn::Set(d_, weight * 1561));
+    }
+
+    SignedWords d_;
+    Gatherer below_;
+    Gatherer farBelow_;
+    V toNext_;
+    V toSecond_[4]; ///< now and in the steps to come
+    V fromLeft_;
+    V fromSecondLeft_;
+};
+
+/// Stucki's diffusion, a band of rows at a time, from the top.
 class Diffusion {
 public:
     static constexpr std::size_t bandRows = words;
     using Rows = std::array<std::uint16_t*, bandRows>;
 
+    /// `p` is at least 11 and at most 128.
     Diffusion(std::size_t width, std::int32_t p, int threshold)
         : width_(width),
           skew_(width),
           gray_(entries() * bandRows, outside),
           white_(entries() * bandRows),
-          waiting_(entries() + lead),
-          waitingNext_(entries() + lead),
-          threshold_(threshold) {
-        const auto factor = static_cast<std::uint32_t>(655360 / p + 1);
-        part_ = static_cast<std::int16_t>(factor);
-        whole_ = factor >= 0x8000U ? -1 : 0;
+          forFirst_(entries() + lead),
+          forSecond_(entries() + lead),
+          threshold_(static_cast<std::int16_t>(threshold)) {
+        const int fraction = 655360 / p + 1;
+        part_ = static_cast<std::int16_t>(fraction);
+        whole_ = fraction >= 0x8000 ? -1 : 0;
     }
 
-    /// Rows of gray values become rows of 0 and all bits set. Bands come from the top.
-    void run(const Rows& rows);
+    /// Rows of gray values become rows of 0 for black and all bits for white.
+    void run(const Rows& rows) {
+        skew_.load(rows, gray_.data());
+        diffuse();
+        skew_.store(white_.data(), rows);
+    }
 
 private:
-    using V = SignedWordVector;
     static constexpr std::size_t lag = 3;
-    static constexpr std::size_t lead = lag * (bandRows + 1);
-    // As gray value of what is no column: such a pixel comes out white, without an error.
+    static constexpr std::ptrdiff_t lead = lag * (bandRows + 1); // of the first row over the next
+                                                                 // band's second one
+    // The gray value of what is no column: such a pixel comes out white, without an error.
     static constexpr std::uint16_t outside = 0x4000;
 
     std::size_t entries() const { return width_ + lead; }
@@ -75,88 +146,51 @@ private:
     Skew<std::uint16_t, bandRows, bandRows, lag> skew_;
     std::vector<std::uint16_t> gray_;
     std::vector<std::uint16_t> white_;
-    std::vector<std::int16_t> waiting_;     ///< the error for the next band's first row
-    std::vector<std::int16_t> waitingNext_; ///< for its second row, without the first row's share
-    int threshold_;
-    std::int16_t part_;  ///< 10 / p in 65536ths, less whole_
-    std::int16_t whole_; ///< all bits set if a whole is to be added
-};
-
-/// n \ 65536ths
-inline SignedWordVector truncated(SignedWordVector n, SignedWordVector factor) {
-    return hn::Sub(hn::MulHigh(n, factor), hn::BroadcastSignBit(n));
-}
-
-/// The sum a (x - 2) + b (x - 1) + c x + b (x + 1) + a (x + 2) of a row that goes by.
-struct Gathered {
-    SignedWordVector next(SignedWordVector a, SignedWordVector b, SignedWordVector c) {
-        const auto sum = hn::Add(pending[0], a);
-        pending[0] = hn::Add(pending[1], b);
-        pending[1] = hn::Add(pending[2], c);
-        pending[2] = hn::Add(pending[3], b);
-        pending[3] = a;
-        return sum;
-    }
-    SignedWordVector pending[4];
+    std::vector<std::int16_t> forFirst_;  ///< from column -lead on, what waits for a band's rows
+    std::vector<std::int16_t> forSecond_; ///< as Errors::waiting has it
+    std::int16_t threshold_;
+    std::int16_t part_;  ///< 10 / p in 65536ths, but for
+    std::int16_t whole_; ///< all bits if a whole is to be added
 };
 
 void Diffusion::diffuse() {
     const SignedWords d;
-    const auto zero = hn::Zero(d);
-    const auto full = hn::Set(d, 255);
-    const auto threshold = hn::Set(d, static_cast<std::int16_t>(threshold_));
-    const auto part = hn::Set(d, part_);
-    const auto whole = hn::Set(d, whole_);
-    const auto share = hn::Set(d, 1561); // a 42nd in 65536ths, right for all errors
-    Gathered below{{zero, zero, zero, zero}};
-    Gathered farBelow = below;
-    V forNext = zero;   // from the row above
-    V forSecond = zero; // from the row above that one, now and in three steps to come
-    V delayed[3] = {zero, zero, zero};
-    V fromLeft = zero;
-    V fromSecondLeft = zero;
+    const V zero = hn::Zero(d);
+    const V full = hn::Set(d, 255);
+    const V threshold = hn::Set(d, threshold_);
+    const V part = hn::Set(d, part_);
+    const V whole = hn::Set(d, whole_);
     const auto* gray = reinterpret_cast<const std::int16_t*>(gray_.data());
     auto* white = reinterpret_cast<std::int16_t*>(white_.data());
-    std::int16_t* waiting = waiting_.data() + lead;
-    std::int16_t* waitingNext = waitingNext_.data() + lead;
-    for (std::size_t u = 0; u < entries(); ++u) {
-        const auto at = static_cast<std::ptrdiff_t>(u);
-        const auto handed = hn::Add(
-            forNext, movedUp<2>(d, forSecond, hn::Set(d, waitingNext[at - std::ptrdiff_t{lag}])));
-        const auto above = movedUp<2>(d, handed, hn::Set(d, waiting[at]));
-        waiting[at - std::ptrdiff_t{lag * bandRows}] = hn::ExtractLane(handed, bandRows - 1);
-        waitingNext[at - std::ptrdiff_t{lead}] = hn::ExtractLane(forSecond, bandRows - 1);
-        const auto error = hn::Add(fromLeft, above);
-        const auto scaled = hn::Add(truncated(error, part), hn::And(error, whole));
-        const auto value = hn::Add(hn::LoadU(d, gray + u * bandRows), scaled);
-        const auto v = hn::Min(hn::Max(value, zero), full);
-        const auto black = hn::VecFromMask(d, hn::Lt(v, threshold));
-        hn::StoreU(hn::Not(black), d, white + u * bandRows);
-        const auto e = hn::Sub(v, hn::AndNot(black, full));
-
-        const auto one = truncated(e, share);
-        const auto two = truncated(e, hn::Set(d, 2 * 1561));
-        const auto four = truncated(e, hn::Set(d, 4 * 1561));
-        const auto eight = truncated(e, hn::Set(d, 8 * 1561));
-        fromLeft = hn::Add(eight, fromSecondLeft);
-        fromSecondLeft = four;
-        forNext = below.next(two, four, eight);
-        forSecond = delayed[0];
-        delayed[0] = delayed[1];
-        delayed[1] = delayed[2];
-        delayed[2] = farBelow.next(one, two, four);
+    std::int16_t* const forFirst = forFirst_.data() + lead;
+    std::int16_t* const forSecond = forSecond_.data() + lead;
+    Errors errors(zero);
+    for (std::ptrdiff_t u = 0; u < static_cast<std::ptrdiff_t>(entries()); ++u) {
+        const V waiting = errors.waiting(forFirst[u], forSecond[u - std::ptrdiff_t{lag}]);
+        forFirst[u - lead + std::ptrdiff_t{lag}] = errors.forNext();
+        forSecond[u - lead] = errors.forSecond();
+        const V scaled = hn::Add(fractionOf(waiting, part), hn::And(waiting, whole));
+        const V sum = hn::Add(hn::LoadU(d, gray), scaled);
+        const V v = hn::Min(hn::Max(sum, zero), full);
+        const V black = hn::VecFromMask(d, hn::Lt(v, threshold));
+        hn::StoreU(hn::Not(black), d, white);
+        errors.spread(hn::Sub(v, hn::AndNot(black, full)));
+        gray += bandRows;
+        white += bandRows;
     }
 }
 
-void Diffusion::run(const Rows& rows) {
-    skew_.load(rows, gray_.data());
-    diffuse();
-    skew_.store(white_.data(), rows);
+/// A row of pixels turns black where `white` is 0 and white where it has all bits.
+void storeRow(const std::uint16_t* white, std::size_t width, Pixel* row) {
+    for (std::size_t x = 0; x < width; ++x) {
+        const auto all = static_cast<Pixel>(static_cast<std::int16_t>(white[x]));
+        row[x] = (row[x] & ~colours) | (all & colours);
+    }
 }
 
 bool VectorDither(PixelSpan PixelBuf, ConstPixelSpan SourceBuf, std::int32_t p, int threshold,
                   RowRhythm& rhythm) {
-    if (p < 11 || p > 128) {
+    if (p < 11 || p > 128) { // other fractions would not be exact
         return false;
     }
     constexpr std::size_t bandRows = Diffusion::bandRows;
@@ -182,14 +216,6 @@ bool VectorDither(PixelSpan PixelBuf, ConstPixelSpan SourceBuf, std::int32_t p, 
     return true;
 }
 
-#else
-
-bool VectorDither(PixelSpan, ConstPixelSpan, std::int32_t, int, RowRhythm&) {
-    return false;
-}
-
-#endif
-
 } // namespace HWY_NAMESPACE
 } // namespace kaart
 HWY_AFTER_NAMESPACE();
@@ -202,26 +228,20 @@ HWY_EXPORT(VectorDither);
 
 namespace {
 
-int meanGray(ConstPixelSpan picture) {
-    const auto width = static_cast<std::size_t>(picture.width);
-    std::vector<std::uint16_t> gray(width);
-    std::uint64_t sum = 0;
-    for (int y = 0; y < picture.height; ++y) {
-        sum += HWY_DYNAMIC_DISPATCH(GrayRow)(picture.row(y), width, gray.data());
-    }
-    return static_cast<int>(sum / (width * static_cast<std::size_t>(picture.height)));
-}
-
 /// The errors of a row, with two columns of 0 on either side.
 using ErrorRow = std::vector<std::int32_t>;
 
-/// What reaches column x, counted from the margin, from a row above, with these shares in 42nds.
-std::int32_t gather(const ErrorRow& row, std::size_t x, int far, int near, int centre) {
-    const auto share = [&](std::size_t at, int weight) { return weight * row[at] / 42; };
-    return share(x - 2, far) + share(x - 1, near) + share(x, centre) + share(x + 1, near) +
-           share(x + 2, far);
+std::int32_t share(const ErrorRow& row, std::size_t x, int weight) {
+    return weight * row[x] / 42;
 }
 
+/// What reaches column x from a row above, by the distance of its columns.
+std::int32_t shares(const ErrorRow& row, std::size_t x, int two, int one, int none) {
+    return share(row, x - 2, two) + share(row, x - 1, one) + share(row, x, none) +
+           share(row, x + 1, one) + share(row, x + 2, two);
+}
+
+/// For parameters that no menu entry has.
 void pixelByPixel(PixelSpan PixelBuf, ConstPixelSpan SourceBuf, std::int32_t p, int threshold,
                   RowRhythm& rhythm) {
     const auto width = static_cast<std::size_t>(PixelBuf.width);
@@ -232,16 +252,16 @@ void pixelByPixel(PixelSpan PixelBuf, ConstPixelSpan SourceBuf, std::int32_t p, 
         std::rotate(errors.begin(), errors.end() - 1, errors.end());
         std::fill(errors[0].begin(), errors[0].end(), 0);
         HWY_DYNAMIC_DISPATCH(GrayRow)(SourceBuf.row(y), width, gray.data());
-        for (std::size_t x = 0; x < width; ++x) {
-            const std::int32_t waiting = 8 * errors[0][x + 1] / 42 + 4 * errors[0][x] / 42 +
-                                         gather(errors[1], x + 2, 2, 4, 8) +
-                                         gather(errors[2], x + 2, 1, 2, 4);
+        Pixel* pixel = PixelBuf.row(y);
+        for (std::size_t x = 2; x < width + 2; ++x, ++pixel) {
+            const std::int32_t waiting = share(errors[0], x - 1, 8) + share(errors[0], x - 2, 4) +
+                                         shares(errors[1], x, 2, 4, 8) +
+                                         shares(errors[2], x, 1, 2, 4);
             const std::int32_t scaled = p == 0 ? 0 : waiting * 10 / p;
-            const int v = std::clamp(scaled + gray[x], 0, 255);
-            const int output = v < threshold ? 0 : 255;
-            errors[0][x + 2] = v - output;
-            Pixel& pixel = PixelBuf.row(y)[x];
-            pixel = (pixel & 0xFF000000U) | (output == 0 ? 0 : 0x00FFFFFFU);
+            const std::int32_t v = std::clamp(scaled + gray[x - 2], 0, 255);
+            const bool black = v < threshold;
+            errors[0][x] = black ? v : v - 255;
+            *pixel = (*pixel & 0xFF000000U) | (black ? 0 : 0x00FFFFFFU);
         }
         rhythm.rowDone(y + 1, PixelBuf.height);
     }
@@ -250,7 +270,7 @@ void pixelByPixel(PixelSpan PixelBuf, ConstPixelSpan SourceBuf, std::int32_t p, 
 } // namespace
 
 void FilterDither(PixelSpan PixelBuf, ConstPixelSpan SourceBuf, std::int32_t p, RowRhythm& rhythm) {
-    if (PixelBuf.width == 0 || PixelBuf.height == 0) {
+    if (PixelBuf.width <= 0 || PixelBuf.height <= 0) {
         return;
     }
     const int threshold = meanGray(SourceBuf);

@@ -15,8 +15,6 @@ HWY_BEFORE_NAMESPACE();
 namespace kaart {
 namespace HWY_NAMESPACE {
 
-#if HWY_TARGET != HWY_SCALAR
-
 /// What a formula is given, for each pixel and channel in a vector.
 struct Neighbours {
     // Sums of the pixels above and below: of the column before, the pixel's own, the next one.
@@ -73,12 +71,12 @@ class Band {
 public:
     explicit Band(std::size_t width)
         : width_(width),
-          above_(width + lag * bandRows + bandRows),
+          above_(4 * (width + lag * bandRows + bandRows)),
           entries_((width + lag * bandRows) * stride),
           skew_(width) {}
 
     void load(const Pixel* above, const std::array<Pixel*, bandRows>& rows, const Pixel* below) {
-        std::copy_n(above, width_, above_.begin());
+        widenRow(above, width_, above_.data());
         skew_.load(rows, entries_.data());
         for (std::size_t x = 0; x < width_; ++x) {
             entries_[(x + lag * bandRows) * stride + bandRows] = below[x];
@@ -93,7 +91,7 @@ private:
     class Wave;
 
     std::size_t width_;
-    std::vector<Pixel> above_;
+    std::vector<std::uint16_t> above_;
     std::vector<Pixel> entries_;
     Skew<Pixel, bandRows, stride, lag> skew_;
 };
@@ -115,8 +113,8 @@ public:
         colourLanes_ = hn::MaskFromVec(hn::PromoteTo(
             Words(),
             hn::BitCast(HalfBytes(), hn::Set(hn::Repartition<Pixel, HalfBytes>(), colours))));
-        n_.columnBefore = hn::Add(widened(above_), below(0));
-        n_.column = hn::Add(widened(above_ + 1), below(1));
+        n_.columnBefore = hn::Add(hn::LoadU(Words(), above_), below(0));
+        n_.column = hn::Add(hn::LoadU(Words(), above_ + 4), below(1));
         n_.left = widened(entry_);
         n_.centre = right(0);
     }
@@ -137,7 +135,7 @@ private:
     template <bool allInside>
     void step() {
         // One row's result is its lower neighbour's upper right one, two entries later.
-        const auto upRight = movedUp<8>(Words(), before_, widened(above_ + u_));
+        const auto upRight = movedUp<8>(Words(), before_, hn::LoadU(Words(), above_ + 4 * u_));
         n_.columnAfter = hn::Add(upRight, below(u_ + 1));
         n_.right = right(u_);
         auto result = Formula::at(n_);
@@ -161,7 +159,7 @@ private:
     }
 
     std::int64_t width_;
-    const Pixel* above_;
+    const std::uint16_t* above_;
     Pixel* entry_;
     hn::Vec<Columns> lags_;
     hn::Mask<Words> colourLanes_;
@@ -211,20 +209,6 @@ bool inPlace(PixelSpan PixelBuf, RowRhythm& rhythm) {
     return true;
 }
 
-#else
-
-struct Sharpen10;
-struct Edge1;
-struct Blur;
-struct Smooth;
-
-template <class Formula>
-bool inPlace(PixelSpan, RowRhythm&) {
-    return false;
-}
-
-#endif
-
 bool VectorSharpen(PixelSpan PixelBuf, RowRhythm& rhythm) {
     return inPlace<Sharpen10>(PixelBuf, rhythm);
 }
@@ -252,8 +236,8 @@ HWY_EXPORT(VectorSmooth);
 
 namespace {
 
-/// For parameters that no menu entry has, tiny pictures and processors without vectors. The formula
-/// is given the pixel, the sum of its neighbours by sides and the sum of those by corners.
+/// For parameters that no menu entry has, and for tiny pictures. The formula is given the pixel,
+/// the sum of its neighbours by sides and the sum of those by corners.
 template <typename Formula>
 void pixelByPixel(PixelSpan PixelBuf, RowRhythm& rhythm, Formula formula) {
     const std::ptrdiff_t stride = std::ptrdiff_t{4} * PixelBuf.width;
@@ -280,7 +264,7 @@ void pixelByPixel(PixelSpan PixelBuf, RowRhythm& rhythm, Formula formula) {
 void FilterSharpen(PixelSpan PixelBuf, ConstPixelSpan, std::int32_t p, RowRhythm& rhythm) {
     if (p != 10 || !HWY_DYNAMIC_DISPATCH(VectorSharpen)(PixelBuf, rhythm)) {
         pixelByPixel(PixelBuf, rhythm, [p](std::int64_t P, int sides, int corners) {
-            return p == -8 ? P : (P * (p + 24LL) - 2 * (sides + corners)) / (p + 8LL);
+            return p == -8 ? P : (P * (p + 24LL) - 2LL * (sides + corners)) / (p + 8LL);
         });
     }
 }

@@ -7,7 +7,7 @@
 #endif
 
 #include "design/surface/AlignedSteps-inl.h"
-#include "design/surface/ColorRef.h"
+#include "filters/Vectors-inl.h"
 
 #include <hwy/highway.h>
 
@@ -28,8 +28,6 @@ using ByteLanes = hn::Repartition<std::uint8_t, PixelLanes>;
 using WordLanes = hn::Repartition<std::uint16_t, PixelLanes>;
 using ShortLanes = hn::Repartition<std::int16_t, PixelLanes>;
 using Pixels = hn::Vec<PixelLanes>;
-
-inline constexpr Pixel colourBytes = 0x00FFFFFFU;
 
 /// Runs `chunk(to, from)` over a run of pixels, `size` pixels at a time; the last, incomplete chunk
 /// goes through a buffer. `to` may be `from`.
@@ -81,10 +79,10 @@ HWY_INLINE Pixels SumOfThree(Pixels x) {
 /// (blue + green + red) \ 3 of each pixel, in the low byte; the others are 0.
 HWY_INLINE Pixels MeanOfThree(Pixels x) {
     const PixelLanes d;
-    const WordLanes words;
+    const WordLanes wordLanes;
     // ceil(2^16 / 3): exact for all sums up to 765.
-    return hn::BitCast(
-        d, hn::MulHigh(hn::BitCast(words, SumOfThree(x)), hn::Set(words, std::uint16_t{21846})));
+    return hn::BitCast(d, hn::MulHigh(hn::BitCast(wordLanes, SumOfThree(x)),
+                                      hn::Set(wordLanes, std::uint16_t{21846})));
 }
 
 /// A byte of each pixel, repeated as the pattern says; 0x80 gives 0.

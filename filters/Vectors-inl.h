@@ -30,8 +30,6 @@ using WordVector = hn::Vec<Words>;
 using SignedWordVector = hn::Vec<SignedWords>;
 constexpr std::size_t words = HWY_MAX_BYTES / sizeof(std::uint16_t); // in a vector
 
-#if HWY_TARGET != HWY_SCALAR
-
 /// The four bytes of each pixel as words, as many pixels as a vector holds.
 inline WordVector widened(const Pixel* pixels) {
     return hn::PromoteTo(Words(),
@@ -65,7 +63,9 @@ void transpose(D d, hn::Vec<D> (&square)[side]) {
             next[2 * i] = hn::InterleaveLower(d, square[i], square[i + side / 2]);
             next[2 * i + 1] = hn::InterleaveUpper(d, square[i], square[i + side / 2]);
         }
-        std::copy(next, next + side, square);
+        for (std::size_t i = 0; i < side; ++i) {
+            square[i] = next[i];
+        }
     }
 }
 
@@ -141,7 +141,12 @@ private:
     std::size_t width_;
 };
 
-#endif
+/// Gives a row's pixels other colours; the fourth bytes stay.
+inline void recolourRow(const Pixel* from, std::size_t width, Pixel* row) {
+    for (std::size_t x = 0; x < width; ++x) {
+        row[x] = (row[x] & ~colours) | (from[x] & colours);
+    }
+}
 
 /// A row's bytes as words.
 inline void widenRow(const Pixel* row, std::size_t width, std::uint16_t* values) {
@@ -152,7 +157,6 @@ inline void widenRow(const Pixel* row, std::size_t width, std::uint16_t* values)
 /// Words 0 to 255 become the colours of pixels, whose fourth bytes stay.
 inline void narrowRow(const std::uint16_t* values, std::size_t width, Pixel* row) {
     std::size_t x = 0;
-#if HWY_TARGET != HWY_SCALAR
     const hn::Repartition<Pixel, HalfBytes> d;
     const auto mask = hn::Set(d, colours);
     for (; x + words / 4 <= width; x += words / 4) {
@@ -162,7 +166,6 @@ inline void narrowRow(const std::uint16_t* values, std::size_t width, Pixel* row
         const auto fourth = hn::AndNot(mask, hn::LoadU(d, row + x));
         hn::StoreU(hn::Or(hn::And(mask, bytes), fourth), d, row + x);
     }
-#endif
     for (; x < width; ++x) {
         const std::uint16_t* value = values + 4 * x;
         row[x] = (row[x] & ~colours) | Pixel{value[2]} << 16 | Pixel{value[1]} << 8 | value[0];

@@ -39,7 +39,8 @@ float Rnd() {
 }
 
 void fillRnd(std::span<float> numbers) {
-    // Eight states in a row, each of which leaps over the others: they need not wait for each other.
+    // Eight states in a row, each of which leaps over the others: they need not wait for each
+    // other.
     constexpr std::size_t leapers = 8;
     constexpr Step leap = one.twice().twice().twice();
     std::array<std::uint64_t, leapers> states;
