@@ -5,6 +5,7 @@
 #include "output/window/AfdrukForm.h"
 #include "output/window/OpenForm.h"
 #include "output/window/SaveForm.h"
+#include "packs/window/UnzipForm.h"
 #include "pictures/window/CopyDialog.h"
 #include "puzzle/window/PuzzelForm.h"
 #include "puzzle/window/ScoreForm.h"
@@ -29,6 +30,7 @@ constexpr std::array table = {
     WindowRow{"FileSave", open<SaveForm>},
     WindowRow{"FilePrint", open<AfdrukForm>},
     WindowRow{"GereedschapAdressen", open<AdresForm>},
+    WindowRow{"GereedschapUnzippen", open<UnzipForm>},
     WindowRow{"SelectieCopy(7)", open<CopyDialog>},
     WindowRow{"StartKnop", open<PuzzelForm>},
     WindowRow{"ScoreKnop", openScores},

@@ -7,8 +7,8 @@ kaart_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 kaart_jobs=$(nproc)
 
 build_packages=(g++ cmake make ninja-build ccache qt6-base-dev qt6-base-dev-tools qt6-svg-dev
-    qt6-qpa-plugins qt6-translations-l10n libgl1-mesa-dev libhwy-dev libbenchmark-dev fonts-liberation
-    poppler-utils dbus-daemon)
+    qt6-qpa-plugins qt6-translations-l10n libgl1-mesa-dev libhwy-dev libzip-dev libbenchmark-dev
+    fonts-liberation poppler-utils dbus-daemon)
 tour_packages=(xvfb xauth)
 check_packages=(clang-format clang-tidy)
 

@@ -38,11 +38,16 @@ QStringList chainTo(const QString& path) {
 } // namespace
 
 FolderLists::FolderLists(QComboBox& places, QListWidget& folders, QObject* parent)
-    : QObject(parent), places_(places), folders_(folders) {
+    : FolderLists(folders, parent) {
+    places_ = &places;
     addPlaces();
+    connect(places_, &QComboBox::activated, this,
+            [this](int row) { open(places_->itemData(row).toString()); });
+}
+
+FolderLists::FolderLists(QListWidget& folders, QObject* parent)
+    : QObject(parent), folders_(folders) {
     folders_.setIconSize(QSize(16, 16));
-    connect(&places_, &QComboBox::activated, this,
-            [this](int row) { open(places_.itemData(row).toString()); });
     connect(&folders_, &QListWidget::itemActivated, this,
             [this](const QListWidgetItem* item) { open(item->data(Qt::UserRole).toString()); });
 }
@@ -57,7 +62,7 @@ void FolderLists::addPlaces() {
     paths << subfolders(QStringLiteral("/media/") + user)
           << subfolders(QStringLiteral("/run/media/") + user);
     for (const QString& path : paths) {
-        places_.addItem(QDir::toNativeSeparators(path), path);
+        places_->addItem(QDir::toNativeSeparators(path), path);
     }
 }
 
@@ -80,13 +85,13 @@ void FolderLists::open(const QString& path) {
 
 void FolderLists::showPlace() {
     qsizetype longest = -1;
-    for (int row = 0; row < places_.count(); ++row) {
-        const QString place = places_.itemData(row).toString();
+    for (int row = 0; places_ != nullptr && row < places_->count(); ++row) {
+        const QString place = places_->itemData(row).toString();
         const bool above =
             path_ == place || QDir(place).isRoot() || path_.startsWith(place + QLatin1Char('/'));
         if (above && place.size() > longest) {
             longest = place.size();
-            places_.setCurrentIndex(row);
+            places_->setCurrentIndex(row);
         }
     }
 }

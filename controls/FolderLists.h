@@ -17,6 +17,8 @@ class FolderLists : public QObject {
 public:
     /// The lists outlive this object or own it.
     FolderLists(QComboBox& places, QListWidget& folders, QObject* parent);
+    /// Of the folders alone: from the root of the open one every place can be reached, too.
+    FolderLists(QListWidget& folders, QObject* parent);
 
     /// Opens a folder; the home folder when there is no such one.
     void open(const QString& path);
@@ -30,7 +32,7 @@ private:
     void showPlace();
     void addFolder(const QString& path, bool isOpen);
 
-    QComboBox& places_;
+    QComboBox* places_ = nullptr;
     QListWidget& folders_;
     QString path_;
 };
