@@ -2,6 +2,10 @@
 
 #include "addresses/window/AdresForm.h"
 #include "design/session/Design.h"
+#include "generators/window/BallonForm.h"
+#include "generators/window/BlokkenForm.h"
+#include "generators/window/PolyGonForm.h"
+#include "generators/window/WaveTextForm.h"
 #include "output/window/AfdrukForm.h"
 #include "output/window/OpenForm.h"
 #include "output/window/SaveForm.h"
@@ -34,6 +38,10 @@ constexpr std::array table = {
     WindowRow{"SelectieCopy(7)", open<CopyDialog>},
     WindowRow{"StartKnop", open<PuzzelForm>},
     WindowRow{"ScoreKnop", openScores},
+    WindowRow{"TekenKnop(7)", open<WaveTextForm>},
+    WindowRow{"GereedschapTekstBallon", open<BallonForm>},
+    WindowRow{"GereedschapRotatie", open<BlokkenForm>},
+    WindowRow{"GereedschapPolygon", open<PolyGonForm>},
 };
 
 } // namespace

@@ -1,11 +1,11 @@
 #include "design/window/StartValues.h"
 
+#include "controls/ChoiceLists.h"
 #include "controls/ControlTable.h"
 
 #include <QAbstractSlider>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFontDatabase>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
@@ -41,24 +41,6 @@ constexpr std::array checks = {"BoldCheck",    "ItalicCheck",   "UnderlineCheck"
                                "SchaduwCheck", "DiagonalCheck", "Check1",         "Check2",
                                "Check3",       "Check4",        "Check5"};
 
-QStringList numbers(int first, int last, int step) {
-    QStringList list;
-    for (int i = first; i <= last; i += step) {
-        list << QString::number(i);
-    }
-    return list;
-}
-
-/// The system's fonts; "Arial" is always offered, since another font stands in for it.
-QStringList fonts() {
-    QStringList list = QFontDatabase::families();
-    const QString arial = QStringLiteral("Arial");
-    if (!list.contains(arial)) {
-        list.insert(std::lower_bound(list.begin(), list.end(), arial), arial);
-    }
-    return list;
-}
-
 void setStartValues(QWidget& window, const QString& textLine) {
     for (const NumberRow& row : sliders) {
         control<QAbstractSlider>(window, row.name).setValue(row.value);
@@ -81,11 +63,11 @@ void fillControls(QWidget& window) {
     const auto fill = [&window](const char* name, const QStringList& items) {
         control<QComboBox>(window, name).addItems(items);
     };
-    fill("Combo1", fonts());
-    fill("Combo2", numbers(8, 150, 2));
-    fill("Combo3", numbers(0, 360, 15));
-    fill("Combo4", numbers(3, 6, 1));
-    fill("Combo5", numbers(3, 6, 1));
+    fill("Combo1", fontList());
+    fill("Combo2", numberList(8, 150, 2));
+    fill("Combo3", numberList(0, 360, 15));
+    fill("Combo4", numberList(3, 6));
+    fill("Combo5", numberList(3, 6));
     fill("Combo6", {QStringLiteral("G"), QStringLiteral("S"), QStringLiteral("M")});
     setStartValues(window, QStringLiteral("Mijn tekst"));
 }
