@@ -33,6 +33,7 @@ if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
 endif()
 
 if(KAART_SANITIZE)
-    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -O1)
+    # Line numbers are all that a report needs.
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -O1 -g1)
     add_link_options(-fsanitize=address,undefined)
 endif()

@@ -60,7 +60,7 @@ public:
     int GrijpY = 0;
     bool FilterBusy = false; ///< a filter on the array path is running
     int FilterPercent = 0;   ///< how far it has come
-    PuzzleResult Puzzel; ///< the puzzle's choice, and its last game
+    PuzzleResult Puzzel;     ///< the puzzle's choice, and its last game
 
     // What the option panels say.
     ColorRef Tekenkleur = RGB(60, 60, 60);
