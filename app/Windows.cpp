@@ -6,6 +6,8 @@
 #include "generators/window/BlokkenForm.h"
 #include "generators/window/PolyGonForm.h"
 #include "generators/window/WaveTextForm.h"
+#include "libraries/window/BlackForm.h"
+#include "libraries/window/ClipartForm.h"
 #include "output/window/AfdrukForm.h"
 #include "output/window/OpenForm.h"
 #include "output/window/SaveForm.h"
@@ -35,6 +37,8 @@ constexpr std::array table = {
     WindowRow{"FilePrint", open<AfdrukForm>},
     WindowRow{"GereedschapAdressen", open<AdresForm>},
     WindowRow{"GereedschapUnzippen", open<UnzipForm>},
+    WindowRow{"ToolsZwartWit", open<BlackForm>},
+    WindowRow{"ToolsCliparts", open<ClipartForm>},
     WindowRow{"SelectieCopy(7)", open<CopyDialog>},
     WindowRow{"StartKnop", open<PuzzelForm>},
     WindowRow{"ScoreKnop", openScores},
