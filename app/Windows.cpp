@@ -12,7 +12,9 @@
 #include "output/window/OpenForm.h"
 #include "output/window/SaveForm.h"
 #include "packs/window/UnzipForm.h"
+#include "pictures/window/CaptureForm.h"
 #include "pictures/window/CopyDialog.h"
+#include "pictures/window/Dialogform.h"
 #include "puzzle/window/PuzzelForm.h"
 #include "puzzle/window/ScoreForm.h"
 
@@ -35,6 +37,8 @@ constexpr std::array table = {
     WindowRow{"FileOpen", open<OpenForm>},
     WindowRow{"FileSave", open<SaveForm>},
     WindowRow{"FilePrint", open<AfdrukForm>},
+    WindowRow{"ToolsFoto", open<Dialogform>},
+    WindowRow{"GereedschapCapture", open<CaptureForm>},
     WindowRow{"GereedschapAdressen", open<AdresForm>},
     WindowRow{"GereedschapUnzippen", open<UnzipForm>},
     WindowRow{"ToolsZwartWit", open<BlackForm>},

@@ -28,7 +28,6 @@ function(kaart_program)
     add_library(app STATIC ${sources})
     target_include_directories(app PUBLIC ${CMAKE_SOURCE_DIR})
     target_link_libraries(app PUBLIC design_window output_window pictures_window
-    target_link_libraries(app PUBLIC design_window output_window pictures_window
                           addresses_window puzzle_window packs_window generators_window
                           libraries_window)
 

@@ -29,6 +29,14 @@ QRect covering(const QRect& pixels, double ratio) {
 
 } // namespace
 
+QRect LiveGrab::desktop() const {
+    QRect all;
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        all |= pixelsOf(*screen);
+    }
+    return all;
+}
+
 QPoint LiveGrab::mouse() const {
     const QPoint at = QCursor::pos();
     const QScreen* screen = QGuiApplication::screenAt(at);

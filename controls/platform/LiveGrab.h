@@ -13,6 +13,7 @@ public:
     bool isLive() const override { return true; }
     void start() override {}
     void stop() override {}
+    QRect desktop() const override;
     QPoint mouse() const override;
     QImage grab(const QRect& pixels) const override;
 };

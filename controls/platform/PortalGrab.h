@@ -23,6 +23,7 @@ public:
     bool isLive() const override { return false; }
     void start() override;
     void stop() override;
+    QRect desktop() const override { return picture_.rect(); }
     /// The mouse is only known over the program's own windows; elsewhere its last place counts.
     QPoint mouse() const override;
     QImage grab(const QRect& pixels) const override;

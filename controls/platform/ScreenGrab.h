@@ -23,6 +23,8 @@ public:
     virtual void start() = 0;
     /// Drops the picture, and the wish for one.
     virtual void stop() = 0;
+    /// The whole desktop; empty while there is nothing to be seen.
+    virtual QRect desktop() const = 0;
     /// Where the mouse is, in the same pixels.
     virtual QPoint mouse() const = 0;
     /// That part of the desktop in surface format, black outside the screens. Empty when there is

@@ -17,6 +17,7 @@ Design::Design(ProgramFolders folders, QObject* parent)
       OrgineelPic(shortSide, longSide),
       LijstPic(80, 80),
       OntwerpRichting(portrait),
+      pictureFolder(Folders.pictures),
       pic_(shortSide, longSide),
       undoPic_(shortSide, longSide) {
     ClipPic.AutoSize = true;

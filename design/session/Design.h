@@ -50,6 +50,7 @@ public:
     QString OntwerpRichting; ///< "Staand" or "Liggend"
     QString OntwerpNaam;     ///< empty for a new design
     QString OntwerpPad;
+    QString pictureFolder; ///< where the user last looked for pictures
     QString TekstNaam = QStringLiteral("Default");
     int RandSoort = 0;
     double MargeLinks = 0; ///< margins in units of 30 twips

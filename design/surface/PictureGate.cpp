@@ -2,6 +2,7 @@
 
 #include "design/surface/PictureHeader.h"
 #include "design/surface/PixelSpan.h"
+#include "design/surface/PixelSurface.h"
 #include "design/surface/WholeFile.h"
 
 #include <QBuffer>
@@ -55,6 +56,15 @@ void stretchToWhite(QImage& picture, QRgb brightest) {
     }
 }
 
+// Once: pictures are read on several threads.
+void raiseAllocationLimit() {
+    static const bool raised = [] {
+        QImageReader::setAllocationLimit(static_cast<int>((maxPicturePixels * 4 >> 20) + 1));
+        return true;
+    }();
+    Q_UNUSED(raised)
+}
+
 // A picture file whose header has passed the scan, or a closed gate.
 class PictureFile {
 public:
@@ -66,7 +76,7 @@ public:
         }
         buffer_.setData(*bytes);
         buffer_.open(QIODevice::ReadOnly);
-        QImageReader::setAllocationLimit(static_cast<int>((maxPicturePixels * 4 >> 20) + 1));
+        raiseAllocationLimit();
         reader_.setDevice(&buffer_);
         reader_.setAutoDetectImageFormat(false);
         reader_.setFormat(readerName(header_->format));
@@ -178,17 +188,18 @@ std::optional<QImage> LoadPicture(const QString& path) {
     return PictureFile(path).read();
 }
 
-std::optional<QImage> loadThumbnail(const QString& path, const QSize& box) {
+std::optional<QImage> loadStretched(const QString& path,
+                                    const std::function<QSize(const QSize& full)>& sizeFor) {
     PictureFile file(path);
     const QSize size = file.size();
-    if (size.isEmpty() || box.isEmpty()) {
+    const QSize target = size.isEmpty() ? QSize() : sizeFor(size);
+    if (target.isEmpty()) {
         return std::nullopt;
     }
-    const QSize target = fitInto(size, box);
     if (target == size) {
         return file.read();
     }
-    if (file.isJpeg()) {
+    if (file.isJpeg() && target.boundedTo(size) == target) {
         file.setScaledSize(target);
         return file.read();
     }
@@ -196,7 +207,15 @@ std::optional<QImage> loadThumbnail(const QString& path, const QSize& box) {
     if (!picture) {
         return std::nullopt;
     }
-    return picture->scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    PixelSurface stretched(target.width(), target.height());
+    stretched.PaintPicture(*picture, 0, 0, target.width(), target.height(), 0, 0, picture->width(),
+                           picture->height());
+    return stretched.Image();
+}
+
+std::optional<QImage> loadThumbnail(const QString& path, const QSize& box) {
+    return loadStretched(
+        path, [&box](const QSize& full) { return box.isEmpty() ? QSize() : fitInto(full, box); });
 }
 
 std::optional<QSize> pictureSize(const QString& path) {

@@ -4,6 +4,7 @@
 #include <QSize>
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 namespace kaart {
@@ -26,6 +27,12 @@ std::optional<QImage> LoadPicture(const QString& path);
 /// and at least one pixel a side. JPEG files go through the scaled decode. Nothing for an empty
 /// box.
 std::optional<QImage> loadThumbnail(const QString& path, const QSize& box);
+
+/// Reads a picture stretched to the size that `sizeFor` gives for its own, both in pixels, without
+/// regard to its proportions; nothing for an empty one. A JPEG that becomes no larger in either
+/// direction goes through the scaled decode.
+std::optional<QImage> loadStretched(const QString& path,
+                                    const std::function<QSize(const QSize& full)>& sizeFor);
 
 /// The picture's size in pixels as LoadPicture would give it, without decoding; the same files are
 /// refused, except for damage that only decoding finds.

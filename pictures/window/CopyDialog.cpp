@@ -50,7 +50,7 @@ CopyDialog::CopyDialog(Design& design, QWidget* parent) : QDialog(parent), desig
             &CopyDialog::exportPicture);
     connect(&control<VistaButton>(*this, "CancelKnop"), &VistaButton::clicked, this,
             &CopyDialog::reject);
-    folders_->open(design.Folders.pictures);
+    folders_->open(design.pictureFolder);
     control<QWidget>(*this, "List1").setFocus();
 }
 
@@ -70,6 +70,7 @@ void CopyDialog::dress() {
 }
 
 void CopyDialog::listFiles(const QString& folder) {
+    design_.pictureFolder = folder;
     const QStringList names = importFileNames(folder);
     for (const char* list : {"File1", "List1"}) {
         control<QListWidget>(*this, list).clear();

@@ -15,6 +15,7 @@ struct FakeGrab final : ScreenGrab {
     bool isLive() const override { return true; }
     void start() override { ++started; }
     void stop() override { ++stopped; }
+    QRect desktop() const override { return {0, 0, 800, 600}; }
     QPoint mouse() const override { return at; }
     QImage grab(const QRect& pixels) const override {
         asked = pixels;
