@@ -56,6 +56,16 @@ void Design::FileNew() {
     Refresh();
 }
 
+void Design::replace(const QImage& picture, int kind) {
+    const QImage before = pic_.Image(); // ZetRichting clears the undo copy too
+    ZetRichting(kind);
+    undoPic_.setPicture(before);
+    changeFurther([&picture](PixelSurface& pic) {
+        pic.PaintPicture(picture, 0, 0, pic.ScaleWidth(), pic.ScaleHeight(), 0, 0, picture.width(),
+                         picture.height());
+    });
+}
+
 void Design::open(const QImage& picture, const QString& name) {
     pic_.setPicture(picture);
     undoPic_.setPicture(picture);

@@ -92,6 +92,10 @@ public:
     void EditUndo();
     /// Empties design and name; kept: no undo copy is taken and Gewijzigd stays as it is.
     void FileNew();
+    /// The gate for a picture in the design's place: turns as ZetRichting(kind) does and stretches
+    /// the picture over the whole canvas. The undo copy is the design before, cut off where the
+    /// turned canvas ends.
+    void replace(const QImage& picture, int kind);
     /// Takes a loaded picture as the unchanged design and as its undo copy.
     void open(const QImage& picture, const QString& name);
 

@@ -61,14 +61,6 @@ void clear(SurfaceView& view, ColorRef back) {
     view.Refresh();
 }
 
-/// Makes a picture the design, with the former canvas as the undo copy.
-void become(Design& design, const QImage& picture) {
-    const QImage former = design.Pic().Image();
-    design.ZetRichting(picture.width() > picture.height() ? 2 : 1);
-    design.changeFurther([&](PixelSurface& pic) { pic.setPicture(former); });
-    design.change([&](PixelSurface& pic) { paintImport(pic, picture, pic.bounds()); });
-}
-
 } // namespace
 
 Dialogform::Dialogform(Design& design, QWidget* parent, Wallpaper wallpaper)
@@ -297,7 +289,8 @@ void Dialogform::takeOver() {
     // Kept: the label remembers the selected file, and a counter on it is the name of no file.
     if (loadOrgineel(pathOf(control<QLabel>(*this, "CounterLabel").text())) ||
         loadOrgineel(formerPath_)) {
-        become(design_, control<SurfaceView>(*this, "Orgineel").surface().Picture());
+        const QImage picture = control<SurfaceView>(*this, "Orgineel").surface().Picture();
+        design_.replace(picture, picture.width() > picture.height() ? 2 : 1);
     }
     QGuiApplication::restoreOverrideCursor();
     accept();
