@@ -1,11 +1,3 @@
-# The second build of every source, with sanitizers, takes the headers that all include at once. The
-# first one doesn't: there each source must include what it uses.
-function(kaart_quicken target)
-    if(KAART_SANITIZE)
-        target_precompile_headers(${target} PRIVATE ${ARGN})
-    endif()
-endfunction()
-
 # One call per room: every source directly in its folder becomes one static library.
 # kaart_room(<target> <folder> USES <libraries...>)
 function(kaart_room target folder)
@@ -16,8 +8,10 @@ function(kaart_room target folder)
     target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR})
     target_compile_definitions(${target} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
     target_link_libraries(${target} PUBLIC ${ROOM_USES})
-    if(folder MATCHES "window$|controls")
-        kaart_quicken(${target} <QtWidgets>)
+    # Only in the second build: in the first one each source must include what it uses, and
+    # clang-tidy reads along.
+    if(KAART_SANITIZE AND folder MATCHES "window$|controls")
+        target_precompile_headers(${target} PRIVATE <QtWidgets>)
     endif()
 endfunction()
 
