@@ -4,9 +4,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include <cstring>
 #include <random>
-#include <vector>
 
 using namespace kaart;
 
@@ -30,6 +28,26 @@ void floodBlank(benchmark::State& state) {
     for (auto _ : state) {
         surface.FillColor = ++x % 2 == 0 ? white : black;
         ExtFloodFill(surface, 200, 300, GetPixel(surface, 200, 300), FloodType::Surface);
+    }
+}
+
+/// The ground round a drawing of circles and lines.
+void floodDrawing(benchmark::State& state) {
+    PixelSurface surface(width, height);
+    for (int i = 0; i < 40; ++i) {
+        const double x = i * 97 % width;
+        const double y = i * 211 % height;
+        surface.Circle(x, y, 10 + i, RGB(200, 0, 0));
+        surface.Line(x, y, height - y, x + 60, RGB(0, 0, 200));
+    }
+    for (int i = 0; i < width; i += 8) {
+        surface.PSet(i, i, RGB(0, 90, 0));
+    }
+    bool dark = false;
+    for (auto _ : state) {
+        dark = !dark;
+        surface.FillColor = dark ? RGB(250, 250, 200) : white;
+        ExtFloodFill(surface, 0, height - 1, GetPixel(surface, 0, height - 1), FloodType::Surface);
     }
 }
 
@@ -70,7 +88,8 @@ void undoCopyAndFirstChange(benchmark::State& state) {
 } // namespace
 
 BENCHMARK(floodBlank)->Name("flood_blank/ours/card/t1");
+BENCHMARK(floodDrawing)->Name("flood_drawing/ours/card/t1");
 BENCHMARK(copyDesign)->Name("copy/ours/card/t1");
-BENCHMARK(stretchDouble)->Name("stretch2x/ours/card/t1");
+BENCHMARK(stretchDouble)->Name("double2x/ours/card/t1");
 BENCHMARK(shrinkHalf)->Name("shrink2x/ours/card/t1");
 BENCHMARK(undoCopyAndFirstChange)->Name("undo_copy/ours/card/t1");

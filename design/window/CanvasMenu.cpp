@@ -45,12 +45,22 @@ void CanvasMenu::addCommands() {
 }
 
 void CanvasMenu::addHelp() {
-    add(QStringLiteral("HelpHelp"), [this] { openHelp(QStringLiteral("Help.pdf")); });
+    addDocument(QStringLiteral("HelpHelp"), QStringLiteral("Help.pdf"));
     add(fullName("Helpscreen", 1), [this] { Helpscreen(); });
-    add(fullName("Helpscreen", 2), [this] { openHelp(QStringLiteral("Beeldscherm.pdf")); });
+    addDocument(fullName("Helpscreen", 2), QStringLiteral("Beeldscherm.pdf"));
     add(QStringLiteral("HelpMeerSoftware"), [this] { openPage(softwarePage); });
     add(QStringLiteral("HelpMeerAfbeeldingen"), [this] { openPage(picturesPage); });
     add(QStringLiteral("HelpSpecialeTekens"), [this] { ToonTekens(); });
+}
+
+void CanvasMenu::addDocument(const QString& entry, const QString& fileName) {
+    if (BestandBestaat(documentPath(fileName))) {
+        add(entry, [this, fileName] { openDocument(fileName); });
+    }
+}
+
+QString CanvasMenu::documentPath(const QString& fileName) const {
+    return design_.Folders.in(QStringLiteral("Data/") + fileName);
 }
 
 void CanvasMenu::Helpscreen() {
@@ -64,11 +74,9 @@ void CanvasMenu::ToonTekens() {
     showMessage(&window_, QStringLiteral("Mijn Kaartwerkje"), specialCharacters());
 }
 
-void CanvasMenu::openHelp(const QString& fileName) {
-    const QString path = design_.Folders.in(QStringLiteral("Data/") + fileName);
-    if (!BestandBestaat(path)) {
-        showMessage(&window_, helpTitle, QStringLiteral("%1 is niet gevonden.").arg(fileName));
-    } else if (!OpenDocument(path)) {
+void CanvasMenu::openDocument(const QString& fileName) {
+    const QString path = documentPath(fileName);
+    if (!BestandBestaat(path) || !OpenDocument(path)) {
         showMessage(&window_, helpTitle,
                     QStringLiteral("%1 kan niet worden geopend.").arg(fileName));
     }

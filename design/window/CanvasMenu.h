@@ -24,7 +24,10 @@ private:
     void addHelp();
     void Helpscreen();
     void ToonTekens();
-    void openHelp(const QString& fileName);
+    /// Connects an entry that shows a document of the folder Data; without the file it is disabled.
+    void addDocument(const QString& entry, const QString& fileName);
+    QString documentPath(const QString& fileName) const;
+    void openDocument(const QString& fileName);
     void openPage(const QString& address);
 
     QMainWindow& window_;
