@@ -53,7 +53,7 @@ const ControlRow controls[] = {
      " Bovenstaande adres verwijderen "},
     {ControlKind::Button, "", "Knop(3)", 3570, 3810, 1050, 360, "Afdrukken",
      " Alle adressen afdrukken "},
-    {ControlKind::Button, "", "CancelKnop", 5870, 3810, 960, 360, "", "", "annuleren"},
+    {ControlKind::Button, "", "CancelKnop", 5870, 3810, 960, 360, "", " Annuleren ", "annuleren"},
     {ControlKind::Button, "", "SaveKnop", 6870, 3810, 960, 360, "", " Opslaan en afsluiten ",
      "opslaan"},
     {ControlKind::ListView, "", "ListView1", 0, 0, 15, 15},
@@ -99,7 +99,6 @@ void AdresForm::nameControls() {
                                    : control<QLabel>(*this, labels[field]).text());
     }
     control<QWidget>(*this, "HScroll1").setAccessibleName(QStringLiteral("Adres"));
-    control<QWidget>(*this, "CancelKnop").setAccessibleName(QStringLiteral("Annuleren"));
 }
 
 void AdresForm::connectControls() {

@@ -54,8 +54,8 @@ public:
         : lean_(penWidth % 2 == 0 ? 1 : 0),
           ax_(2.0 * from.x() - lean_),
           ay_(2.0 * from.y() - lean_),
-          dx_(2.0 * (Wide{to.x()} - from.x())),
-          dy_(2.0 * (Wide{to.y()} - from.y())),
+          dx_(2.0 * (static_cast<double>(to.x()) - from.x())),
+          dy_(2.0 * (static_cast<double>(to.y()) - from.y())),
           squaredLength_(dx_ * dx_ + dy_ * dy_),
           width_(penWidth) {}
 

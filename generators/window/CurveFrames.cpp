@@ -53,9 +53,9 @@ void drawEllipse(PixelSurface& surface, const QString& text, Values v) {
 
 const std::array table = {
     CurveFrame{"Frame1", " Circel Tekst ", 60, 1560, circleSliders, drawCircle},
-    CurveFrame{"Frame2", " Rotatie Tekst ", 1770, 1170, rotateSliders, drawRotated},
-    CurveFrame{"Frame3", " Wave Tekst ", 3090, 1560, waveSliders, drawWave},
-    CurveFrame{"Frame4", " Ellips Tekst ", 4740, 2340, ellipseSliders, drawEllipse},
+    CurveFrame{"Frame2", " Rotatie Tekst ", 1725, 1170, rotateSliders, drawRotated},
+    CurveFrame{"Frame3", " Wave Tekst ", 3000, 1560, waveSliders, drawWave},
+    CurveFrame{"Frame4", " Ellips Tekst ", 4680, 2340, ellipseSliders, drawEllipse},
 };
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "controls/ChoiceLists.h"
 #include "controls/ControlTable.h"
+#include "controls/Labels.h"
 #include "controls/Messages.h"
 #include "controls/Palette.h"
 #include "controls/VistaButton.h"
@@ -59,16 +60,15 @@ PolyGonForm::PolyGonForm(Design& design, QWidget* parent)
     setWindowTitle(QStringLiteral("Polygon Maker"));
     setFixedSize(pixels(9360), pixels(7140));
     setBackColor(*this, windowColor);
+    buildSwatches(); // above all else, also for the Tab key
     buildControls(*this, controls);
     Picture1_->setObjectName(QStringLiteral("Picture1"));
     place(*Picture1_, 120, 1020);
     Picture1_->raise();
-    auto& instruction = control<QLabel>(*this, "Label1");
-    instruction.setWordWrap(true);
-    instruction.setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    buildSwatches();
+    makeParagraph(control<QLabel>(*this, "Label1"));
     fillLists();
     connectControls();
+    control<QWidget>(*this, "Combo1").setFocus();
 }
 
 void PolyGonForm::buildSwatches() {
@@ -78,7 +78,6 @@ void PolyGonForm::buildSwatches() {
         return swatch;
     };
     fillColour_ = make(0, firstFillColour);
-    fillColour_->setAccessibleName(control<QLabel>(*this, "Label3").text());
     fillColour_->setFocusPolicy(Qt::NoFocus);
     place(*fillColour_, 120, 330, 600, 525);
     for (int i = 0; i < static_cast<int>(swatches.size()); ++i) {
@@ -98,11 +97,10 @@ void PolyGonForm::fillLists() {
     for (int hundredths = 0; hundredths <= 314; ++hundredths) {
         control<QComboBox>(*this, "Combo3").addItem(QString::number(hundredths / 100.0, 'f', 2));
     }
-    const std::pair<const char*, const char*> names[] = {
-        {"Combo1", "Label4"}, {"Combo3", "Label5"}, {"Combo2", "Label6"}};
-    for (const auto& [combo, label] : names) {
-        control<QWidget>(*this, combo).setAccessibleName(control<QLabel>(*this, label).text());
-    }
+    nameByLabels(*this, {{"lblColor(0)", "Label3"},
+                         {"Combo1", "Label4"},
+                         {"Combo3", "Label5"},
+                         {"Combo2", "Label6"}});
 }
 
 void PolyGonForm::connectControls() {

@@ -3,6 +3,7 @@
 #include "controls/ChoiceLists.h"
 #include "controls/ControlTable.h"
 #include "controls/Fader.h"
+#include "controls/Labels.h"
 #include "controls/Messages.h"
 #include "controls/Palette.h"
 #include "controls/VistaButton.h"
@@ -69,6 +70,7 @@ WaveTextForm::WaveTextForm(Design& design, QWidget* parent) : QDialog(parent), d
     for (const CurveFrame& curve : curveFrames()) {
         buildFrame(curve);
     }
+    orderTabs();
     buildMenu();
     dress();
     connectControls();
@@ -112,6 +114,14 @@ void WaveTextForm::buildFrame(const CurveFrame& curve) {
     }
 }
 
+/// The buttons that close the window come after all sliders.
+void WaveTextForm::orderTabs() {
+    auto& last = control<QWidget>(*this, curveFrames().back().sliders.back().name);
+    auto& exportKnop = control<QWidget>(*this, "ExportKnop");
+    setTabOrder(&last, &exportKnop);
+    setTabOrder(&exportKnop, &control<QWidget>(*this, "CancelKnop"));
+}
+
 void WaveTextForm::buildMenu() {
     auto* menu = new QMenu(QStringLiteral("Colors"), this);
     menu->setObjectName(QStringLiteral("KleurenPalet"));
@@ -145,11 +155,7 @@ void WaveTextForm::dress() {
         setBackColor(control<QWidget>(*this, name), back);
     }
     setForeColor(control<QLabel>(*this, "Label22"), RGB(100, 100, 120));
-    const std::pair<const char*, const char*> names[] = {
-        {"Text1", "Label13"}, {"Combo1", "Label19"}, {"Combo2", "Label20"}};
-    for (const auto& [field, label] : names) {
-        control<QWidget>(*this, field).setAccessibleName(control<QLabel>(*this, label).text());
-    }
+    nameByLabels(*this, {{"Text1", "Label13"}, {"Combo1", "Label19"}, {"Combo2", "Label20"}});
 }
 
 void WaveTextForm::connectControls() {

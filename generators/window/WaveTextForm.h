@@ -22,6 +22,7 @@ public:
 private:
     void buildPictures();
     void buildFrame(const CurveFrame& frame);
+    void orderTabs();
     void buildMenu();
     void dress();
     void connectControls();

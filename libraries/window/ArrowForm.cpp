@@ -1,14 +1,15 @@
 #include "libraries/window/ArrowForm.h"
 
 #include "controls/ControlTable.h"
+#include "controls/Labels.h"
 #include "controls/Messages.h"
 #include "controls/Palette.h"
+#include "controls/PositionBar.h"
 #include "controls/SurfaceView.h"
 #include "controls/VistaButton.h"
 #include "design/session/Design.h"
 #include "design/surface/Numbers.h"
 #include "design/tools/FloatingPicture.h"
-#include "libraries/window/PositionBar.h"
 
 #include <QLabel>
 #include <QMouseEvent>
@@ -66,9 +67,7 @@ void ArrowForm::dress() {
         control<SurfaceView>(*this, name).show(*surface);
     }
     control<QWidget>(*this, "BackPic").hide();
-    auto& text = control<QLabel>(*this, "Label4");
-    text.setWordWrap(true);
-    text.setAlignment(Qt::AlignTop);
+    makeParagraph(control<QLabel>(*this, "Label4"));
     control<QRadioButton>(*this, "Option1", 0).setChecked(true);
     auto& row = control<QScrollBar>(*this, "HScroll1");
     makePositionBar(row, Qt::Horizontal, 0, ArrowSheet::rows - 1);

@@ -1,16 +1,17 @@
 #include "libraries/window/BlackForm.h"
 
 #include "controls/ControlTable.h"
+#include "controls/Labels.h"
 #include "controls/Messages.h"
 #include "controls/OverlayShape.h"
 #include "controls/Palette.h"
+#include "controls/PositionBar.h"
 #include "controls/SurfaceView.h"
 #include "controls/VistaButton.h"
 #include "design/session/Algemeen.h"
 #include "design/session/Design.h"
 #include "design/surface/Numbers.h"
 #include "design/tools/FloatingPicture.h"
-#include "libraries/window/PositionBar.h"
 
 #include <QDir>
 #include <QLabel>
@@ -77,9 +78,7 @@ void BlackForm::dress() {
     setBackColor(list, RGB(230, 230, 250));
     list.setAccessibleName(QStringLiteral("Afbeeldingen"));
     list.setFocus();
-    auto& help = control<QLabel>(*this, "Label2");
-    help.setWordWrap(true);
-    help.setAlignment(Qt::AlignTop);
+    makeParagraph(control<QLabel>(*this, "Label2"));
     control<QWidget>(*this, "Pic").setCursor(Qt::CrossCursor);
 }
 

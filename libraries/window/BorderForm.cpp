@@ -3,6 +3,7 @@
 #include "controls/ControlTable.h"
 #include "controls/Messages.h"
 #include "controls/Palette.h"
+#include "controls/PositionBar.h"
 #include "controls/SurfaceView.h"
 #include "controls/VistaButton.h"
 #include "design/session/Algemeen.h"
@@ -11,7 +12,6 @@
 #include "design/surface/Numbers.h"
 #include "design/surface/PictureGate.h"
 #include "libraries/ApplyMask.h"
-#include "libraries/window/PositionBar.h"
 
 #include <QDir>
 #include <QGuiApplication>

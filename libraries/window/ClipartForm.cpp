@@ -1,8 +1,10 @@
 #include "libraries/window/ClipartForm.h"
 
 #include "controls/ControlTable.h"
+#include "controls/Labels.h"
 #include "controls/Messages.h"
 #include "controls/Palette.h"
+#include "controls/PositionBar.h"
 #include "controls/SurfaceView.h"
 #include "controls/VistaButton.h"
 #include "design/session/Algemeen.h"
@@ -12,7 +14,6 @@
 #include "design/tools/FilterClick.h"
 #include "design/tools/FloatingPicture.h"
 #include "filters/Flip.h"
-#include "libraries/window/PositionBar.h"
 
 #include <QComboBox>
 #include <QGuiApplication>
@@ -36,9 +37,9 @@ const ControlRow controls[] = {
      " Klik op een sticker (of Ctrl+1 tot Ctrl+5) "},
     {ControlKind::Value, "", "Label5", 195, 2325, 4980, 5430},
     {ControlKind::Surface, "", "BigPic", 210, 2340, 1650, 1800},
-    {ControlKind::Scroll, "", "VScroll2", 5190, 2325, 210, 5430},
     {ControlKind::Label, "", "Label2", 5490, 2130, 2100, 240, "Bibliotheek"},
     {ControlKind::Combo, "", "Combo1", 5490, 2400, 2100, 360},
+    {ControlKind::Scroll, "", "VScroll2", 5190, 2325, 210, 5430},
     {ControlKind::Label, "", "Label3", 5490, 2850, 2985, 240},
     {ControlKind::Label, "", "Label1", 5490, 3300, 2985, 240, "Grootte Sticker (110x120)"},
     {ControlKind::Button, "", "HorKnop", 5490, 3630, 2985, 480, "Spiegelbeeld", "",
@@ -103,9 +104,7 @@ void ClipartForm::dress() {
     makePositionBar(size, Qt::Vertical, 110, stickerCell.width());
     size.setPageStep(20);
     size.setAccessibleName(QStringLiteral("Grootte Sticker"));
-    auto& info = control<QLabel>(*this, "InfoLabel");
-    info.setWordWrap(true);
-    info.setAlignment(Qt::AlignTop);
+    makeParagraph(control<QLabel>(*this, "InfoLabel"));
 }
 
 void ClipartForm::connectControls() {

@@ -1,7 +1,9 @@
 #include "output/window/AfdrukForm.h"
 
 #include "controls/Art.h"
+#include "controls/ChoiceLists.h"
 #include "controls/ControlTable.h"
+#include "controls/Labels.h"
 #include "controls/Palette.h"
 #include "controls/SurfaceView.h"
 #include "controls/VistaButton.h"
@@ -76,9 +78,7 @@ const ControlRow controls[] = {
 };
 
 void fillNumbers(QComboBox& combo, int first, int last, const QString& text) {
-    for (int number = first; number <= last; ++number) {
-        combo.addItem(QString::number(number));
-    }
+    combo.addItems(numberList(first, last));
     combo.setCurrentIndex(combo.findText(text));
     combo.setEditText(text);
 }
@@ -137,12 +137,12 @@ void AfdrukForm::fillLists() {
     fillNumbers(control<QComboBox>(*this, "Combo1"), 1, 20, QStringLiteral("1"));
     fillNumbers(control<QComboBox>(*this, "Combo3"), 2015, 2020,
                 QString::number(QDate::currentDate().year()));
-    const std::pair<const char*, const char*> names[] = {
-        {"Combo1", "Label5"},  {"Combo2", "Label1"},  {"LMcombo", "Label3"},
-        {"TMcombo", "Label4"}, {"RMcombo", "Label7"}, {"BMcombo", "Label6"}};
-    for (const auto& [combo, label] : names) {
-        control<QWidget>(*this, combo).setAccessibleName(control<QLabel>(*this, label).text());
-    }
+    nameByLabels(*this, {{"Combo1", "Label5"},
+                         {"Combo2", "Label1"},
+                         {"LMcombo", "Label3"},
+                         {"TMcombo", "Label4"},
+                         {"RMcombo", "Label7"},
+                         {"BMcombo", "Label6"}});
     control<QWidget>(*this, "Combo3").setAccessibleName(QStringLiteral("Jaar"));
 }
 

@@ -2,6 +2,7 @@
 
 #include "controls/ControlTable.h"
 #include "controls/FolderLists.h"
+#include "controls/Labels.h"
 #include "controls/Palette.h"
 #include "controls/VistaButton.h"
 #include "design/session/Design.h"
@@ -41,7 +42,7 @@ const ControlRow controls[] = {
     {ControlKind::Label, "", "Label1", 3420, 180, 5220, 3465, helpText},
     {ControlKind::Label, "", "Label2", 3420, 3765, 5220, 270, "Naam Zip-Bestand"},
     {ControlKind::Button, "", "UnzipKnop", 3420, 4440, 2520, 480, "Uitpakken", "", "uitpakken"},
-    {ControlKind::Button, "", "CancelKnop", 6120, 4440, 2520, 480, "Sluiten", "", "annuleren"},
+    {ControlKind::Button, "", "CancelKnop", 6120, 4440, 2520, 480, "Sluiten", "", "ok"},
 };
 
 } // namespace
@@ -76,9 +77,7 @@ void UnzipForm::dress() {
         setBackColor(control<QWidget>(*this, name), RGB(230, 230, 240));
     }
     control<QWidget>(*this, "File1").hide();
-    auto& help = control<QLabel>(*this, "Label1");
-    help.setWordWrap(true);
-    help.setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    makeParagraph(control<QLabel>(*this, "Label1"));
     bar_->setObjectName(QStringLiteral("Bar"));
     bar_->setRange(0, 1000);
     bar_->hide();

@@ -55,6 +55,7 @@ CaptureForm::CaptureForm(Design& design, QWidget* parent, std::unique_ptr<Screen
     layout->setContentsMargins(0, 0, 0, 0);
     auto* scroll = new QScrollArea;
     scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setAccessibleName(QStringLiteral("Schermafdruk"));
     scroll->setWidgetResizable(true);
     scroll->setWidget(buildSheet());
     layout->addWidget(scroll);

@@ -4,6 +4,7 @@
 #include "controls/DialogMenu.h"
 #include "controls/Palette.h"
 #include "controls/PlainToolTip.h"
+#include "controls/PositionBar.h"
 #include "controls/SurfaceView.h"
 #include "controls/VistaButton.h"
 #include "design/session/Design.h"
@@ -97,9 +98,7 @@ void Dialogform::buildViews() {
     control<QWidget>(*this, "HelpPic").hide();
     control<QWidget>(*this, "Bar").hide();
     auto& scroll = control<QScrollBar>(*this, "VScroll1");
-    scroll.setOrientation(Qt::Vertical);
-    scroll.setInvertedControls(true);
-    scroll.setRange(0, 0);
+    makePositionBar(scroll, Qt::Vertical, 0, 0);
     scroll.setSingleStep(scrollStep);
     scroll.setPageStep(view.height());
     scroll.hide();

@@ -1,6 +1,7 @@
 #include "puzzle/window/PuzzelForm.h"
 
 #include "controls/ControlTable.h"
+#include "controls/Labels.h"
 #include "controls/Palette.h"
 #include "controls/SurfaceView.h"
 #include "controls/VistaButton.h"
@@ -69,9 +70,7 @@ PuzzelForm::PuzzelForm(Design& design, QWidget* parent) : QDialog(parent), desig
     buildControls(*this, controls);
     puzzle_ = new Puzzle(this);
     puzzle_->setObjectName(QStringLiteral("Puzzle1"));
-    auto& help = control<QLabel>(*this, "Label1");
-    help.setWordWrap(true);
-    help.setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    makeParagraph(control<QLabel>(*this, "Label1"));
     connect(&control<VistaButton>(*this, "CancelKnop"), &VistaButton::clicked, this,
             &PuzzelForm::reject);
     connect(puzzle_, &Puzzle::Counter, this, &PuzzelForm::showCounter);

@@ -22,11 +22,13 @@ constexpr int columnWidths[scoreColumns] = {200, 125, 75, 55, 55}; // pixels
 
 const ControlRow controls[] = {
     {ControlKind::ListView, "", "ListView1", 150, 150, 8010, 3000},
-    {ControlKind::Button, "", "DeleteKnop", 150, 3300, 930, 360, "", "", "verwijderen"},
+    {ControlKind::Button, "", "DeleteKnop", 150, 3300, 930, 360, "", " Naam verwijderen ",
+     "verwijderen"},
     {ControlKind::Label, "", "Label2", 1170, 3375, 1860, 240, "Naam verwijderen"},
     {ControlKind::Label, "", "Label1", 3150, 3375, 3900, 240,
      "G = Gemakkelijk / S = Standaard / M = Moeilijk"},
-    {ControlKind::Button, "", "CancelKnop", 7170, 3300, 990, 360, "", "", "opslaan"},
+    {ControlKind::Button, "", "CancelKnop", 7170, 3300, 990, 360, "", " Opslaan en sluiten ",
+     "opslaan"},
 };
 
 } // namespace
@@ -41,8 +43,6 @@ ScoreForm::ScoreForm(Design& design, PuzzleResult& result, QWidget* parent)
     setFixedSize(pixels(8400), pixels(4290));
     setBackColor(*this, windowColor);
     buildControls(*this, controls);
-    control<QWidget>(*this, "DeleteKnop").setAccessibleName(QStringLiteral("Naam verwijderen"));
-    control<QWidget>(*this, "CancelKnop").setAccessibleName(QStringLiteral("Opslaan en sluiten"));
     showCount();
     addResult(list_, result_); // kept: the title doesn't count this row
     buildList();

@@ -15,4 +15,7 @@ struct Chapter {
 std::span<const Chapter> cardChapters();
 std::span<const Chapter> filterChapters();
 std::span<const Chapter> paperChapters();
+std::span<const Chapter> artChapters();
+std::span<const Chapter> puzzleChapters();
+std::span<const Chapter> pictureChapters();
 std::span<const Chapter> lastChapters();

@@ -37,6 +37,25 @@ QString tourFile(const Design& design, const QString& file) {
     return QFileInfo(design.Folders.program).path() + QLatin1Char('/') + file;
 }
 
+void inWindow(User& user, const char* menu, const char* entry,
+              const std::function<void()>& inside) {
+    user.during([&] { user.menu(QString::fromUtf8(menu), QString::fromUtf8(entry)); }, inside);
+}
+
+void putDown(User& user, const Design& design, QPoint at, int index) {
+    const QImage before = design.Pic().Image();
+    QWidget& clip = user.find(QStringLiteral("ClipPic"));
+    user.carry(clip, at);
+    user.choosePopUp(
+        [&] {
+            user.clickAt(clip, {20, 20}, Qt::RightButton);
+        },
+        QStringLiteral("Plak(%1)").arg(index));
+    if (design.ClipPic.Visible || design.Pic().Image() == before) {
+        user.fail(QStringLiteral("the floating picture was not put down"));
+    }
+}
+
 void print(User& user, const Design& design, int option, const QString& file) {
     const QString path = tourFile(design, file);
     user.during([&] { user.press(Qt::Key_P, Qt::ControlModifier); },

@@ -14,5 +14,11 @@ void pickFile(User& user, const QString& path, const QString& picture = {});
 /// A file in the tour's folder.
 QString tourFile(const kaart::Design& design, const QString& file);
 
+/// Chooses an entry of a menu that opens a window, and acts in it.
+void inWindow(User& user, const char* menu, const char* entry, const std::function<void()>& inside);
+
+/// Carries the floating picture to a place on the card and puts it down by an entry Plak(index).
+void putDown(User& user, const kaart::Design& design, QPoint at, int index);
+
 /// Prints with an option, from 0, to a PDF file in the tour's folder.
 void print(User& user, const kaart::Design& design, int option, const QString& file);

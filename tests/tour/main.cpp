@@ -39,7 +39,9 @@ int main(int argc, char** argv) {
     const kaart::ProgramFolders work{folder + QStringLiteral("/werk"),
                                      folder + QStringLiteral("/werk/Afbeeldingen")};
     QDir().mkpath(work.pictures);
-    for (const QString& library : {QStringLiteral("/Data"), QStringLiteral("/Lijsten")}) {
+    for (const char* name : {"Data", "Lijsten", "Frames", "Templates", "Achtergronden", "Maskers",
+                             "Stickers", "Vectors"}) {
+        const QString library = QLatin1Char('/') + QLatin1String(name);
         kaart::seedFolder(QCoreApplication::applicationDirPath() + library, work.program + library);
     }
 
@@ -48,7 +50,8 @@ int main(int argc, char** argv) {
     window.show();
     User user(folder);
     user.wait(300);
-    for (const auto part : {cardChapters(), filterChapters(), paperChapters(), lastChapters()}) {
+    for (const auto part : {cardChapters(), filterChapters(), paperChapters(), artChapters(),
+                            puzzleChapters(), pictureChapters(), lastChapters()}) {
         if (!play(part, user, design)) {
             return 1;
         }
