@@ -1,3 +1,4 @@
+#include "addresses/PrintAdressen.h"
 #include "controls/PaperPrinter.h"
 #include "controls/Printers.h"
 #include "tests/support/PdfFile.h"
@@ -141,7 +142,16 @@ private slots:
     void QueueIsAmongThePrinters() { QVERIFY(findPrinters().DeviceNames.contains(queue)); }
 
     void JobComesOutOfTheQueue_data() {
-        printJobRows(); // a job of another room is one row more
+        printJobRows();
+        QTest::newRow("addresses") << PrintJob{
+            "addresses",
+            [](PrinterObject& printer, const PrintOrder&) {
+                const Addresses sheetAndAHalf(60, QStringList(addressFields, "Dorpsplein 3"));
+                return PrintAdressen(printer, sheetAndAHalf, QDateTime::currentDateTime());
+            },
+            false,
+            2,
+            {}};
     }
     void JobComesOutOfTheQueue() {
         QFETCH(PrintJob, job);
