@@ -24,10 +24,10 @@ class AdresFormTest : public QObject {
 
     /// Notes which field turns green; the window goes at the third.
     bool eventFilter(QObject* watched, QEvent* event) override {
-        const auto& field = *qobject_cast<QLineEdit*>(watched);
-        if (event->type() == QEvent::PaletteChange &&
-            field.palette().color(QPalette::Text) == QColor(0, 255, 0)) {
-            flashed_ += field.objectName().right(3);
+        const auto* field = qobject_cast<QLineEdit*>(watched); // null while it is destroyed
+        if (field != nullptr && event->type() == QEvent::PaletteChange &&
+            field->palette().color(QPalette::Text) == QColor(0, 255, 0)) {
+            flashed_ += field->objectName().right(3);
             if (flashed_.endsWith("(2)")) {
                 QMetaObject::invokeMethod(
                     this, [this] { form_.reset(); }, Qt::QueuedConnection);
