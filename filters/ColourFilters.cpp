@@ -1,6 +1,7 @@
 #include "filters/ColourFilters.h"
 
 #include "design/surface/Numbers.h"
+#include "filters/ByteTable.h"
 #include "filters/ColourKernels.h"
 
 #include <array>
@@ -9,8 +10,6 @@
 namespace kaart {
 
 namespace {
-
-using ByteTable = std::array<std::uint8_t, 256>;
 
 constexpr int contrastPrepared = 5; // per cent
 
@@ -37,15 +36,6 @@ void forEachRow(PixelSpan target, ConstPixelSpan source, RowRhythm& rhythm, cons
 
 std::uint8_t clampByte(double value) {
     return static_cast<std::uint8_t>(std::clamp(roundEven(value), 0, 255));
-}
-
-template <typename Value>
-ByteTable tableOf(const Value& value) {
-    ByteTable table{};
-    for (int i = 0; i < 256; ++i) {
-        table[static_cast<std::size_t>(i)] = value(i);
-    }
-    return table;
 }
 
 float factorOf(std::int32_t percent) {
@@ -104,12 +94,12 @@ void FilterGrayscale(PixelSpan PixelBuf, ConstPixelSpan SourceBuf, std::int32_t 
 void FilterLight(PixelSpan PixelBuf, ConstPixelSpan SourceBuf, std::int32_t p, RowRhythm& rhythm) {
     const float factor = factorOf(p + 100);
     const ByteTable GrayTable =
-        tableOf([factor](int i) { return clampByte(static_cast<double>(factor) * i); });
+        tableOf([factor](int i) { return static_cast<double>(factor) * i; });
     // A table is looked up byte by byte. Where a product gives the same values, vectors can do it.
     const std::int16_t change = fixedPoint(std::abs(p) / 100.0);
     const bool darker = p < 0;
     const auto byProduct = [&](int i) {
-        return clampByte(i + (darker ? -scaled(i, change) : scaled(i, change)));
+        return i + (darker ? -scaled(i, change) : scaled(i, change));
     };
     const bool exact = tableOf(byProduct) == GrayTable;
     forEachRow(PixelBuf, SourceBuf, rhythm, [&](Pixel* to, const Pixel* from, std::size_t count) {
@@ -177,8 +167,7 @@ void FilterDodge(PixelSpan target, ConstPixelSpan source) {
 void FilterModern(PixelSpan target, ConstPixelSpan source) {
     static const ByteTable table = tableOf([](int v) {
         // Kept: 255 would be divided by 0 and so stays.
-        return v == 255 ? clampByte(v)
-                        : clampByte(v > 127 ? v / static_cast<double>(255 - v) : (255 - v) * v);
+        return v <= 127 ? (255 - v) * v : v == 255 ? v : v / (255.0 - v);
     });
     forEachRow(target, source, [](Pixel* to, const Pixel* from, std::size_t count) {
         tableRun(to, from, count, table);

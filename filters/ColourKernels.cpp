@@ -11,7 +11,6 @@ HWY_BEFORE_NAMESPACE();
 namespace kaart {
 namespace HWY_NAMESPACE {
 
-using ByteTable = std::array<std::uint8_t, 256>;
 using SpreadTable = std::array<std::int16_t, 256>;
 
 inline constexpr PixelLanes d;
@@ -305,8 +304,7 @@ void scaleRun(Pixel* to, const Pixel* from, std::size_t count, std::int16_t fact
 void saturateRun(Pixel* to, const Pixel* from, std::size_t count, std::int16_t factor) {
     HWY_DYNAMIC_DISPATCH(SaturateRun)(to, from, count, factor);
 }
-void tableRun(Pixel* to, const Pixel* from, std::size_t count,
-              const std::array<std::uint8_t, 256>& table) {
+void tableRun(Pixel* to, const Pixel* from, std::size_t count, const ByteTable& table) {
     HWY_DYNAMIC_DISPATCH(TableRun)(to, from, count, table);
 }
 void spreadRun(Pixel* to, const Pixel* from, std::size_t count,

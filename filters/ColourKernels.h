@@ -1,6 +1,7 @@
 #pragma once
 
 #include "design/surface/ColorRef.h"
+#include "filters/ByteTable.h"
 
 #include <array>
 #include <cstddef>
@@ -27,8 +28,7 @@ void scaleRun(Pixel* to, const Pixel* from, std::size_t count, std::int16_t fact
 /// mean m = (blue + green + red) \ 3.
 void saturateRun(Pixel* to, const Pixel* from, std::size_t count, std::int16_t factor);
 /// Each of the three channels is looked up by itself.
-void tableRun(Pixel* to, const Pixel* from, std::size_t count,
-              const std::array<std::uint8_t, 256>& table);
+void tableRun(Pixel* to, const Pixel* from, std::size_t count, const ByteTable& table);
 /// Each of the three channels is looked up by itself. While one of a pixel's three values is
 /// outside 0 to 255: all become 0 if none is above 0, 255 if none is below 255; otherwise blue,
 /// green and red in turn are cut off, and give half of what is cut (truncated) to the other two.

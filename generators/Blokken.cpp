@@ -1,51 +1,30 @@
 #include "generators/Blokken.h"
 
-#include "design/surface/Numbers.h"
-
-#include <array>
-#include <cstddef>
+#include "filters/ColourKernels.h"
 
 namespace kaart {
 
 namespace {
 
-/// What becomes of a channel, by its value.
-using ChannelTable = std::array<std::uint8_t, 256>;
-
-template <typename Value>
-ChannelTable tableOf(const Value& value) {
-    ChannelTable table{};
-    for (std::size_t i = 0; i < table.size(); ++i) {
-        table[i] = static_cast<std::uint8_t>(roundEven(value(static_cast<double>(i))));
-    }
-    return table;
-}
-
-ChannelTable blendTable(double colour, double share) {
+ByteTable blendTable(double colour, double share) {
     return tableOf([=](double v) { return v - v * share + colour * share; });
 }
 
-Pixel lookUp(const ChannelTable& table, Pixel pixel) {
-    const auto channel = [&](int shift) { return Pixel{table[pixel >> shift & 0xFFU]} << shift; };
-    return 0xFF000000U | channel(16) | channel(8) | channel(0);
-}
-
-void blend(PixelSpan pixels, int x, int y, const ChannelTable& table) {
+void blend(PixelSpan pixels, int x, int y, const ByteTable& table) {
     if (pixels.contains(x, y)) {
-        Pixel& pixel = pixels.row(y)[x];
-        pixel = lookUp(table, pixel);
+        Pixel* pixel = pixels.row(y) + x;
+        tableRun(pixel, pixel, 1, table);
     }
 }
 
 } // namespace
 
 void FadePicture(PixelSurface& pic, int p, RowRhythm& rhythm) {
-    const ChannelTable table = tableOf([p](double c) { return (c * p + (100 - p) * 255) / 100; });
+    const ByteTable table = tableOf([p](double c) { return (c * p + (100 - p) * 255) / 100; });
     for (int x = 0; x < pic.bounds().width(); ++x) {
         const PixelSpan pixels = pic.writePixels(QRect(x, 0, 1, pic.bounds().height()));
         for (int y = 0; y < pixels.height; ++y) {
-            Pixel& pixel = pixels.row(y)[x];
-            pixel = lookUp(table, pixel);
+            blend(pixels, x, y, table);
         }
         rhythm.rowDone(x + 1, pixels.width);
     }
@@ -53,8 +32,8 @@ void FadePicture(PixelSurface& pic, int p, RowRhythm& rhythm) {
 
 void BevelPicture(PixelSurface& surface, std::int32_t width, int inout, double light) {
     const double share = light / 255;
-    const ChannelTable leftTop = blendTable(inout == 1 ? 255 : 0, share);
-    const ChannelTable rightBottom = blendTable(inout == 1 ? 0 : 255, share);
+    const ByteTable leftTop = blendTable(inout == 1 ? 255 : 0, share);
+    const ByteTable rightBottom = blendTable(inout == 1 ? 0 : 255, share);
     const PixelSpan pixels = surface.writePixels();
     const int right = pixels.width - 1;
     const int bottom = pixels.height - 1;

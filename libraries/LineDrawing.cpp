@@ -16,10 +16,6 @@ QStringList lineDrawingNames(const QString& folder) {
     return fileNames(folder, {QStringLiteral("*.vec")});
 }
 
-QRect dragRectangle(QPoint from, QPoint to) {
-    return {from, QPoint(std::max(from.x(), to.x()), std::max(from.y(), to.y()))};
-}
-
 QRect eraserCursor(QPoint pointer) {
     constexpr int before = eraserSize - eraserRim;
     return {pointer - QPoint(before, before), QSize(eraserSize, eraserSize)};

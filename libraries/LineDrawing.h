@@ -11,10 +11,6 @@ namespace kaart {
 /// can't be read.
 QStringList lineDrawingNames(const QString& folder);
 
-/// The rectangle that a drag marks, both points included. It grows to the right and downward only:
-/// a drag the other way gives a line of one pixel.
-QRect dragRectangle(QPoint from, QPoint to);
-
 /// The eraser for a pointer at a point: up and left of it, so that the pointer hides nothing.
 QRect eraserCursor(QPoint pointer);
 

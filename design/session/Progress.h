@@ -1,8 +1,7 @@
 #pragma once
 
+#include "design/session/FrameClock.h"
 #include "design/surface/PixelSurface.h"
-
-#include <QElapsedTimer>
 
 namespace kaart {
 
@@ -13,9 +12,9 @@ struct Progress {
 
     PixelSurface Bar{length, height};
     bool Visible = false;
-    bool Busy = false;   ///< the mouse pointer is the hourglass
-    int Percent = 0;     ///< what BarLabel says; may exceed 100
-    QElapsedTimer Shown; ///< runs since the bar was painted last
+    bool Busy = false; ///< the mouse pointer is the hourglass
+    int Percent = 0;   ///< what BarLabel says; may exceed 100
+    FrameClock Clock;  ///< of the bar
 };
 
 } // namespace kaart

@@ -9,12 +9,16 @@ namespace kaart {
 namespace {
 
 constexpr int toolOfFirstFilter = 100;
-constexpr int frame = 16; // ms
 constexpr double pixelsPerPercent = 3.8;
 
 void emptyBar(Design& design) {
     design.Voortgang.Bar.Cls();
     design.showProgress();
+}
+
+void setBusy(Design& design, bool busy) {
+    design.Voortgang.Busy = busy;
+    design.Voortgang.Visible = busy;
 }
 
 /// Two series of strips, the second partly over the first: a bar that looks round.
@@ -33,11 +37,6 @@ void paintBar(Progress& progress) {
 void showBar(Design& design) {
     paintBar(design.Voortgang);
     design.showProgress();
-    design.Voortgang.Shown.start();
-}
-
-bool frameIsDue(const Progress& progress) {
-    return !progress.Shown.isValid() || progress.Shown.hasExpired(frame);
 }
 
 /// The rhythm of the array path.
@@ -68,13 +67,13 @@ void ShowProgress(Design& design, int value, int total) {
     if (total != 0) {
         design.Voortgang.Percent = 100 * value / total;
     }
-    if (frameIsDue(design.Voortgang)) {
+    if (design.Voortgang.Clock.isDue()) {
         showBar(design);
     }
 }
 
 void LineRhythm::rowDone(int done, int total) {
-    if (frameIsDue(design_.Voortgang)) {
+    if (clock_.isDue()) {
         design_.Refresh();
     }
     DoEvents();
@@ -97,11 +96,19 @@ void RunFilter(Design& design, PixelSurface& pic, int filterNumber, std::int32_t
     design.FilterBusy = false;
 }
 
+void beginProgress(Design& design) {
+    setBusy(design, true);
+    emptyBar(design);
+}
+
+void endProgress(Design& design) {
+    setBusy(design, false);
+    showBar(design);
+}
+
 void filterClick(Design& design, const FilterRow& row) {
     design.change([&](PixelSurface& pic) {
-        design.Voortgang.Busy = true;
-        design.Voortgang.Visible = true;
-        emptyBar(design);
+        beginProgress(design);
         if (QLatin1String(row.name) == QLatin1String("Filter")) {
             design.setTekenModus(row.index + toolOfFirstFilter);
         }
@@ -114,9 +121,7 @@ void filterClick(Design& design, const FilterRow& row) {
             row.pass.run(pic, design.UndoPic(), rhythm);
         }
     });
-    design.Voortgang.Busy = false;
-    design.Voortgang.Visible = false;
-    showBar(design);
+    endProgress(design);
 }
 
 } // namespace kaart

@@ -20,6 +20,10 @@ void RunFilter(Design& design, PixelSurface& pic, int filterNumber, std::int32_t
 /// are painted at most once per frame.
 void ShowProgress(Design& design, int value, int total);
 
+/// What long work begins and ends with: the hourglass, and the bar, empty at first.
+void beginProgress(Design& design);
+void endProgress(Design& design);
+
 /// The rhythm of work that changes the design's picture line by line.
 class LineRhythm final : public RowRhythm {
 public:
@@ -28,6 +32,7 @@ public:
 
 private:
     Design& design_;
+    FrameClock clock_;
 };
 
 } // namespace kaart

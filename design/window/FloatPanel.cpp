@@ -6,7 +6,6 @@
 #include "design/tools/FloatingPicture.h"
 #include "design/window/MenuTable.h"
 
-#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainter>
@@ -15,22 +14,19 @@ namespace kaart {
 
 namespace {
 
-constexpr int frameTime = 16; // ms
-
 /// Gives the window system a turn as often as a screen shows a new frame.
 class FrameRhythm final : public RowRhythm {
 public:
-    FrameRhythm() { sinceFrame_.start(); }
+    FrameRhythm() { clock_.restart(); }
 
     void rowDone(int, int) override {
-        if (sinceFrame_.elapsed() >= frameTime) {
+        if (clock_.isDue()) {
             DoEvents();
-            sinceFrame_.restart();
         }
     }
 
 private:
-    QElapsedTimer sinceFrame_;
+    FrameClock clock_;
 };
 
 void runPlak(Design& design, int index) {

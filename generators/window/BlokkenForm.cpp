@@ -35,21 +35,14 @@ const ControlRow controls[] = {
 
 constexpr int firstTransparency = 50;
 
-void showProgress(Design& design, bool busy) {
-    design.Voortgang.Bar.Cls();
-    design.Voortgang.Visible = busy;
-    design.Voortgang.Busy = busy;
-    design.showProgress();
-}
-
 /// Knows no window: this one may be closed while the picture fades.
 void fade(Design& design, int transparency) {
     design.change([&](PixelSurface& pic) {
-        showProgress(design, true);
+        beginProgress(design);
         LineRhythm rhythm(design);
         FadePicture(pic, transparency, rhythm);
     });
-    showProgress(design, false);
+    endProgress(design);
 }
 
 } // namespace

@@ -1,11 +1,10 @@
 #include "generators/window/SelectView.h"
 
 #include "design/session/Design.h"
+#include "design/surface/DragRect.h"
 #include "design/surface/Numbers.h"
 
 #include <QMouseEvent>
-
-#include <algorithm>
 
 namespace kaart {
 
@@ -68,13 +67,14 @@ void SelectView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void SelectView::stretchTo(QPoint at) {
-    const double width = std::max<double>(at.x(), design_.BeginX) - design_.BeginX + 1;
-    const double height = std::max<double>(at.y(), design_.BeginY) - design_.BeginY + 1;
+    const QPoint start(roundEven(design_.BeginX), roundEven(design_.BeginY));
+    const QSize size = dragRect(start, at).size();
     selected_ = {.Visible = true,
                  .Left = design_.BeginX,
                  .Top = design_.BeginY,
-                 .Width = width,
-                 .Height = frame_ == Frame::Square ? width : height};
+                 .Width = static_cast<double>(size.width()),
+                 .Height =
+                     static_cast<double>(frame_ == Frame::Square ? size.width() : size.height())};
     placeShape();
     emit stretched();
 }

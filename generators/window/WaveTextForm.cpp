@@ -16,7 +16,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
@@ -28,7 +27,6 @@ namespace kaart {
 namespace {
 
 constexpr QSize pictureSize(685, 340);
-constexpr int frame = 16; // ms
 
 const ControlRow controls[] = {
     {ControlKind::Value, "", "Layer", 105, 105, 10305, 5130},
@@ -190,15 +188,13 @@ void WaveTextForm::draw(const CurveFrame& curve) {
 void WaveTextForm::ColorText() {
     const QPointer<WaveTextForm> self = this;
     const Hourglass hourglass;
-    QElapsedTimer shown;
-    shown.start();
+    FrameClock clock;
     const PixelSurface& pattern = BackPic_->surface();
     for (int y = 0; y < pictureSize.height(); ++y) {
         ColorTextRow(Pic_->surface().writePixels(QRect(0, y, pictureSize.width(), 1)),
                      pattern.pixels(), y);
-        if (shown.hasExpired(frame)) {
+        if (clock.isDue()) {
             Pic_->Refresh();
-            shown.start();
         }
         DoEvents();
         if (!self || !isVisible()) {

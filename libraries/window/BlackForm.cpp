@@ -10,6 +10,7 @@
 #include "controls/VistaButton.h"
 #include "design/session/Algemeen.h"
 #include "design/session/Design.h"
+#include "design/surface/DragRect.h"
 #include "design/surface/Numbers.h"
 #include "design/tools/FloatingPicture.h"
 
@@ -182,7 +183,7 @@ void BlackForm::select(const QMouseEvent& mouse) {
     if (mouse.type() == QEvent::MouseMove) {
         if (mouse.buttons().testFlag(Qt::LeftButton)) {
             const QPoint begin(roundEven(design_.BeginX), roundEven(design_.BeginY));
-            layer_->setGeometry(dragRectangle(begin, at));
+            layer_->setGeometry(dragRect(begin, at));
         }
         return;
     }

@@ -62,17 +62,20 @@ const Library& libraryOf(int kind) {
 constexpr QSize lyingFrame(4020, 2820); // twips, of a lying picture
 constexpr QSize lyingPreview(3900, 2700);
 
-/// Shows each row, and gives the window system a turn.
+/// Shows the mask at work, and gives the window system a turn after each row.
 class MaskRhythm final : public RowRhythm {
 public:
     explicit MaskRhythm(Design& design) : design_(design) {}
     void rowDone(int, int) override {
-        design_.Refresh();
+        if (clock_.isDue()) {
+            design_.Refresh();
+        }
         DoEvents();
     }
 
 private:
     Design& design_;
+    FrameClock clock_;
 };
 
 } // namespace

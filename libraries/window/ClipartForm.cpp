@@ -61,7 +61,9 @@ public:
         : design_(design), view_(view), sticker_(sticker) {}
 
     void rowDone(int done, int total) override {
-        view_.update(sticker_.Refresh());
+        if (clock_.isDue() || done == total) {
+            view_.update(sticker_.Refresh());
+        }
         DoEvents();
         ShowProgress(design_, done - 1, total - 1);
     }
@@ -70,6 +72,7 @@ private:
     Design& design_;
     SurfaceView& view_;
     PixelSurface& sticker_;
+    FrameClock clock_;
 };
 
 } // namespace

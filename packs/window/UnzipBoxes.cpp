@@ -9,7 +9,7 @@ namespace kaart {
 
 UnzipBoxes::UnzipBoxes(QWidget& window, QProgressBar& bar)
     : window_(&window), bar_(&bar), wasVisible_(window.isVisible()) {
-    sinceTurn_.start();
+    clock_.restart();
 }
 
 std::optional<QString> UnzipBoxes::password(const QString& file) {
@@ -36,14 +36,12 @@ ReplaceAnswer UnzipBoxes::replace(const QString& file) {
 }
 
 bool UnzipBoxes::service(qint64 done, qint64 total) {
-    constexpr int turnEvery = 20; // milliseconds: a screen's rhythm
-    if (sinceTurn_.elapsed() >= turnEvery) {
+    if (clock_.isDue()) {
         if (bar_ != nullptr && total > 0) {
             bar_->setValue(static_cast<int>(static_cast<double>(done) / static_cast<double>(total) *
                                             bar_->maximum()));
         }
         DoEvents();
-        sinceTurn_.restart();
     }
     return window_ != nullptr && (window_->isVisible() || !wasVisible_);
 }

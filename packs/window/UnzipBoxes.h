@@ -1,8 +1,8 @@
 #pragma once
 
+#include "design/session/FrameClock.h"
 #include "packs/CodeModule.h"
 
-#include <QElapsedTimer>
 #include <QPointer>
 #include <QProgressBar>
 
@@ -22,7 +22,7 @@ private:
     QPointer<QWidget> window_;
     QPointer<QProgressBar> bar_;
     const bool wasVisible_;
-    QElapsedTimer sinceTurn_;
+    FrameClock clock_;
 };
 
 } // namespace kaart
