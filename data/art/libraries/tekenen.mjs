@@ -92,3 +92,18 @@ export function confetti(seed, count, width, height, fills, free) {
       : `<rect x="-4" y="-1.6" width="8" height="3.2" rx="1" fill="${fill}" transform="translate(${x.toFixed(1)} ${y.toFixed(1)}) rotate(${turn.toFixed(0)})"/>`;
   }).join('');
 }
+
+export const warm = [colours.terracotta, colours.ochre, colours.sage, colours.blue, colours.plum];
+export const sheet = (width, height, fill) => `<rect width="${width}" height="${height}" fill="${fill}"/>`;
+export const script = (x, y, size, fill, text) =>
+  `<text x="${x}" y="${y}" font-family="Z003" font-size="${size}" fill="${fill}" text-anchor="middle">${text}</text>`;
+export const small = (x, y, text, anchor = 'start', size = 15) =>
+  `<text x="${x}" y="${y}" font-family="Liberation Serif" font-style="italic" font-size="${size}" fill="${colours.ink}" text-anchor="${anchor}">${text}</text>`;
+export const dotted = (x0, y, x1) =>
+  `<path d="M${x0} ${y}H${x1}" stroke="${colours.ink}" stroke-opacity=".6" stroke-width="1.4" stroke-dasharray="0.1 5" stroke-linecap="round"/>`;
+export const berries = (x, y, fill) => [[0, 0], [9, 5], [3, 11]].map(([dx, dy]) =>
+  `<circle cx="${x + dx}" cy="${y + dy}" r="4.6" fill="${fill}"/><circle cx="${x + dx - 1.3}" cy="${y + dy - 1.5}" r="1.3" fill="#fff" opacity=".7"/>`).join('');
+
+/** The two sizes of a card, in pixels. */
+export const upright = { width: 440, height: 640 };
+export const lying = { width: 640, height: 440 };
