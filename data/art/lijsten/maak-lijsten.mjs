@@ -1,9 +1,10 @@
 // Makes the frame files data/Lijsten/*.fra from lijsten.json: node data/art/lijsten/maak-lijsten.mjs
 //
 // A frame is a list of parts from outside to inside: so many rings, shaded from one colour to
-// another. "grain" roughens the shade from ring to ring by so much. The picture is a BMP of 80 x 80
-// pixels that shows the left bottom corner of the frame, so that the rings cross its row y = 1 from
-// x = 6 on. White is no ring; therefore no part of a ring's colour may reach 250.
+// another; a part without colours is a gap, through which the card is seen. "grain" roughens the
+// shade from ring to ring by so much. The picture is a BMP of 80 x 80 pixels that shows the left
+// bottom corner of the frame, so that the rings cross its row y = 1 from x = 6 on. White is no ring;
+// therefore no part of a ring's colour may reach 250.
 import { mkdirSync, readFileSync, writeFileSync } from 'node:fs';
 
 const side = 80;
@@ -22,6 +23,9 @@ function rings({ parts: rows, grain = 0 }) {
   };
   return rows.flatMap(([count, from, to]) =>
     Array.from({ length: count }, (_, i) => {
+      if (!from) {
+        return white;
+      }
       const share = count > 1 ? i / (count - 1) : 0;
       const shift = rough();
       return parts(from).map((byte, channel) => {
