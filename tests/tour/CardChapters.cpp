@@ -219,12 +219,7 @@ void placePoem(User& user, Design& design) {
     user.choose(QStringLiteral("Combo2"), QStringLiteral("14"));
     user.click(QStringLiteral("TekenKnop(6)"));
     user.click(QStringLiteral("AlignKnop(3)"));
-    auto* list = qobject_cast<QListWidget*>(&user.find(QStringLiteral("List1")));
-    if (list == nullptr || list->count() == 0) {
-        user.fail(QStringLiteral("the text library is empty"));
-        return;
-    }
-    user.doubleClickAt(*list->viewport(), list->visualItemRect(list->item(0)).center());
+    doubleClickRow(user, QStringLiteral("Uitnodiging feest.txt"));
     user.click(QStringLiteral("AlignKnop(1)"));
     user.click(QStringLiteral("PlaatsKnop2"));
     user.carry(user.find(QStringLiteral("TextLabel2")), {70, 476});
@@ -299,6 +294,8 @@ void aboutAndGoodbye(User& user, Design& design) {
     if (design.LijnDikte != 2) {
         user.fail(QStringLiteral("the buttons were not set back"));
     }
+    user.click(QStringLiteral("TekenKnop(0)"));
+    user.drag(user.find(QStringLiteral("Pic")), {{20, 20}, {40, 40}});
     user.during([&] { user.press(Qt::Key_Q, Qt::ControlModifier); },
                 [&] {
                     user.photo(QStringLiteral("afsluiten"));

@@ -18,4 +18,5 @@ std::span<const Chapter> paperChapters();
 std::span<const Chapter> artChapters();
 std::span<const Chapter> puzzleChapters();
 std::span<const Chapter> pictureChapters();
+std::span<const Chapter> finishedCards();
 std::span<const Chapter> lastChapters();

@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QFile>
 #include <QLabel>
-#include <QListWidget>
 #include <QMenuBar>
 
 #include <array>
@@ -14,17 +13,6 @@
 using namespace kaart;
 
 namespace {
-
-/// Clicks a row of List1, by its text, in the window in front.
-void pickRow(User& user, const QString& text) {
-    auto* list = qobject_cast<QListWidget*>(&user.find(QStringLiteral("List1")));
-    const auto rows = list->findItems(text, Qt::MatchExactly);
-    if (rows.isEmpty()) {
-        user.fail(text + QStringLiteral(" is not in the list"));
-        return;
-    }
-    user.clickAt(*list->viewport(), list->visualItemRect(rows.first()).center());
-}
 
 /// Takes the window's choice, after a picture of it.
 void take(User& user, const char* picture, const char* button = "ExportKnop") {

@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QListWidget>
 
 #include <array>
 
@@ -40,6 +41,32 @@ QString tourFile(const Design& design, const QString& file) {
 void inWindow(User& user, const char* menu, const char* entry,
               const std::function<void()>& inside) {
     user.during([&] { user.menu(QString::fromUtf8(menu), QString::fromUtf8(entry)); }, inside);
+}
+
+namespace {
+
+/// Does something at the place of a row of List1.
+template <typename Act>
+void atRow(User& user, const QString& text, const Act& act) {
+    auto* list = qobject_cast<QListWidget*>(&user.find(QStringLiteral("List1")));
+    const auto rows =
+        list == nullptr ? QList<QListWidgetItem*>() : list->findItems(text, Qt::MatchExactly);
+    if (rows.isEmpty()) {
+        user.fail(text + QStringLiteral(" is not in the list"));
+        return;
+    }
+    list->scrollToItem(rows.first());
+    act(*list->viewport(), list->visualItemRect(rows.first()).center());
+}
+
+} // namespace
+
+void pickRow(User& user, const QString& text) {
+    atRow(user, text, [&](QWidget& list, QPoint row) { user.clickAt(list, row); });
+}
+
+void doubleClickRow(User& user, const QString& text) {
+    atRow(user, text, [&](QWidget& list, QPoint row) { user.doubleClickAt(list, row); });
 }
 
 void putDown(User& user, const Design& design, QPoint at, int index) {

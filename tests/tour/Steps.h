@@ -17,6 +17,10 @@ QString tourFile(const kaart::Design& design, const QString& file);
 /// Chooses an entry of a menu that opens a window, and acts in it.
 void inWindow(User& user, const char* menu, const char* entry, const std::function<void()>& inside);
 
+// A row of List1 in the window in front, by its text.
+void pickRow(User& user, const QString& text);
+void doubleClickRow(User& user, const QString& text);
+
 /// Carries the floating picture to a place on the card and puts it down by an entry Plak(index).
 void putDown(User& user, const kaart::Design& design, QPoint at, int index);
 

@@ -4,6 +4,7 @@
 #include <QAbstractSlider>
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -11,7 +12,9 @@
 #include <QTimer>
 #include <QtTest>
 
-User::User(QString folder) : folder_(std::move(folder)) {}
+User::User(QString folder) : folder_(std::move(folder)) {
+    QDir().mkpath(folder_ + QStringLiteral("/vensters"));
+}
 
 QWidget* User::front() {
     if (QWidget* popUp = QApplication::activePopupWidget()) {
@@ -51,8 +54,12 @@ void User::photo(const QString& name) {
         }
     }
     QScreen* screen = QGuiApplication::primaryScreen();
-    const QImage picture = screen->grabWindow(0).toImage().copy(shown & screen->geometry());
-    if (picture.isNull() || !picture.save(file)) {
+    const QImage picture = screen->grabWindow(0).toImage();
+    const QRect alone = front()->window()->frameGeometry();
+    const bool saved = picture.copy(shown & screen->geometry()).save(file) &&
+                       picture.copy(alone & screen->geometry())
+                           .save(QStringLiteral("%1/vensters/%2.png").arg(folder_, name));
+    if (!saved) {
         fail(QStringLiteral("no picture ") + file);
     }
 }
@@ -150,8 +157,9 @@ void User::slide(const QString& name, int value) const {
     }
     slider->setFocus();
     QTest::keyClick(slider, Qt::Key_Home);
+    const Qt::Key more = slider->orientation() == Qt::Vertical ? Qt::Key_Down : Qt::Key_Right;
     for (int i = slider->minimum(); i < value; ++i) {
-        QTest::keyClick(slider, Qt::Key_Right);
+        QTest::keyClick(slider, more);
     }
     if (slider->value() != value) {
         fail(name + QStringLiteral(" does not follow its keys"));

@@ -16,7 +16,8 @@ public:
 
     /// Lets the program run, ms.
     void wait(int ms = 60) const;
-    /// Saves the screen as the next numbered picture of the tour.
+    /// Saves the program's windows as the next numbered picture of the tour, and the one in front
+    /// alone as vensters/<name>.png.
     void photo(const QString& name);
 
     // Mouse and keys, on the control of that name in the window in front.

@@ -51,7 +51,7 @@ int main(int argc, char** argv) {
     User user(folder);
     user.wait(300);
     for (const auto part : {cardChapters(), filterChapters(), paperChapters(), artChapters(),
-                            puzzleChapters(), pictureChapters(), lastChapters()}) {
+                            puzzleChapters(), pictureChapters(), finishedCards(), lastChapters()}) {
         if (!play(part, user, design)) {
             return 1;
         }
