@@ -6,12 +6,6 @@ namespace kaart {
 
 /// Makes a scroll bar of a control table one that moves through something: upright if asked for,
 /// from `minimum`, where it stands, to `maximum`. Keys and wheel go the way that the content goes.
-inline void makePositionBar(QScrollBar& bar, Qt::Orientation orientation, int minimum,
-                            int maximum) {
-    bar.setOrientation(orientation);
-    bar.setInvertedControls(true);
-    bar.setRange(minimum, maximum);
-    bar.setValue(minimum);
-}
+void makePositionBar(QScrollBar& bar, Qt::Orientation orientation, int minimum, int maximum);
 
 } // namespace kaart

@@ -60,7 +60,7 @@ const numbered = (folder, name, list, encode) => list.map(([{ width, height }, i
 const drawn = (from, folder, extension, encode, wrap = (svg) => svg) =>
   readdirSync(new URL(from, source)).filter((file) => file.endsWith('.svg')).map((file) => {
     const svg = readFileSync(new URL(from + file, source), 'utf8');
-    const [, width, height] = svg.match(/viewBox="0 0 (\d+) (\d+)"/).map(Number);
+    const [, width, height] = svg.match(/ width="(\d+)" height="(\d+)"/).map(Number);
     const key = file.replace('.svg', '');
     return { folder, key, file: key + extension, width, height, inner: wrap(svg), scale: 1, encode };
   });

@@ -29,9 +29,10 @@ void CardMaker::sticker(const QString& sheet, int cell, int width, QPoint at) {
     putDown(user_, design_, at, 5);
 }
 
-void CardMaker::drawing(const QString& name, const QRect& part, QPoint at) {
+void CardMaker::drawing(const QString& name, int scroll, const QRect& part, QPoint at) {
     inWindow(user_, "Tools", "ToolsZwartWit", [&] {
         pickRow(user_, name);
+        user_.slide(QStringLiteral("HScroll"), scroll);
         user_.drag(user_.find(QStringLiteral("Pic")),
                    {part.topLeft(), part.center(), part.bottomRight()});
         user_.click(QStringLiteral("ExportKnop"));
@@ -61,8 +62,9 @@ void CardMaker::heading(const QString& text, const Lettering& lettering, QPoint 
     user_.fill(QStringLiteral("Text1"), text);
     user_.click(QStringLiteral("PlaatsKnop"));
     QWidget& pic = user_.find(QStringLiteral("Pic"));
-    const int width = user_.find(QStringLiteral("TextLabel")).width();
-    const QPoint at = middleTop - QPoint(width / 2, 0);
+    // A line hangs above the mouse.
+    const QSize hanging = user_.find(QStringLiteral("TextLabel")).size();
+    const QPoint at = middleTop + QPoint(-hanging.width() / 2, hanging.height());
     QTest::mouseMove(&pic, at);
     user_.clickAt(pic, at);
     if (design_.TekstHangt) {

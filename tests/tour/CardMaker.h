@@ -23,8 +23,9 @@ public:
     void picture(int kind, const QString& file);
     /// Sticker 0 to 4 of a sheet, so many pixels wide, its left top at a point of the card.
     void sticker(const QString& sheet, int cell, int width, QPoint at);
-    /// A part of a line drawing as the window first shows it, put down transparently.
-    void drawing(const QString& name, const QRect& part, QPoint at);
+    /// A part of what the window shows of a line drawing, scrolled so far to the right, put down
+    /// transparently.
+    void drawing(const QString& name, int scroll, const QRect& part, QPoint at);
     /// One line; its middle and top are at a point of the card.
     void heading(const QString& text, const Lettering& lettering, QPoint middleTop);
     /// A text of the library, its lines centred.
