@@ -381,18 +381,10 @@ export function cargoBike() {
 // Tea and flowers -----------------------------------------------------------------------------------------------------
 
 export const steam = () => line('M-8 0C-14 -8 -2 -14 -8 -24M4 -2C-2 -10 10 -18 4 -30', '#b9a99c', 2, 0.55);
-export const teapot = (fill) => line('M40 -56C70 -62 70 -20 38 -20', darker(fill), 7) +
-  shape('M-40 -46C-56 -44 -58 -66 -72 -68L-66 -74C-48 -72 -50 -52 -36 -56Z', darker(fill)) +
-  shape('M-34 -62C-52 -40 -46 -8 -26 0H26C46 -8 52 -40 34 -62Z', fill) +
-  shape('M16 -62H34C52 -40 46 -8 26 0H6C30 -12 34 -42 16 -62Z', darker(fill), 0.22) +
-  shape('M-28 -64C-24 -80 24 -80 28 -64Z', lighter(fill)) + block(-36, -66, 72, 6, darker(fill), 3) + dot(0, -80, 6, c.ochre) +
-  line('M-34 -44C-38 -32 -36 -20 -30 -12', '#fff', 3, 0.4);
 export const cup = (fill) => oval(0, -2, 38, 6, darker(fill)) + oval(0, -4, 38, 6, lighter(fill)) +
   line('M22 -32C40 -36 38 -10 18 -12', fill, 5) + shape('M-26 -38H26C26 -16 18 -4 8 -4H-8C-18 -4 -26 -16 -26 -38Z', fill) +
   shape('M10 -38H26C26 -16 18 -4 8 -4H0C10 -12 12 -26 10 -38Z', darker(fill), 0.2) +
   oval(0, -38, 26, 5, lighter(fill)) + oval(0, -37.5, 22, 3.6, '#b9743f') + heart(-4, -16, 0.5, '#fff');
-export const biscuit = (x, y, size = 1) => place(x, y, oval(0, 1.6, 15, 6.4, '#a87038') + oval(0, 0, 15, 6.2, '#d8a55f') +
-  [[-6, -1], [1, -2.5], [6, 0.5], [-1, 2]].map(([px, py]) => dot(px, py, 1.4, '#7c4f2b')).join(''), size);
 
 // School --------------------------------------------------------------------------------------------------------------
 
@@ -406,8 +398,6 @@ export const apple = () => line('M0 -46C0 -54 4 -58 8 -60', wood, 3) + leaf(2, -
   shape('M0 -43C-8 -51 -32 -49 -32 -25C-32 -7 -18 2 -8 1Q0 -1 8 1C18 2 32 -7 32 -25C32 -49 8 -51 0 -43Z', red) +
   shape('M20 -46C32 -42 34 -28 31 -18C27 -4 16 2 8 1Q4 0 0 0C20 -6 28 -26 20 -46Z', '#8c2419', 0.4) +
   line('M-23 -32C-21 -38 -16 -41 -12 -41', '#fff', 4, 0.55);
-export const ruler = (length) => block(0, -11, length, 22, '#f3d384', 2) + block(0, 5, length, 6, '#dbb45e', 2) +
-  line(times(Math.floor(length / 6) - 1, (i) => `M${6 + i * 6} -11v${i % 5 === 4 ? 10 : 6}`).join(''), '#8a6a30', 1.2);
 
 /** A school bag with a flap; its foot is at (0, 0). */
 export const schoolBag = (fill) => line('M-14 -92C-14 -110 14 -110 14 -92', darker(fill), 6) +
