@@ -4,6 +4,9 @@ function(kaart_room target folder)
     cmake_parse_arguments(ROOM "" "" "USES" ${ARGN})
     file(GLOB sources CONFIGURE_DEPENDS ${folder}/*.cpp ${folder}/*.h ${folder}/platform/*.cpp
          ${folder}/platform/*.h)
+    if(NOT KAART_BUS)
+        list(FILTER sources EXCLUDE REGEX "/platform/(Portal|Plasma)")
+    endif()
     add_library(${target} STATIC ${sources})
     target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR})
     target_compile_definitions(${target} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
@@ -15,6 +18,9 @@ function(kaart_room target folder)
     endif()
 endfunction()
 
+# What the program reads and writes in its folder.
+set(KAART_FOLDERS Data Lijsten Ontwerpen Frames Templates Achtergronden Maskers Stickers Vectors)
+
 # The program itself, and beside it the folders that it reads at run time.
 function(kaart_program)
     file(GLOB sources CONFIGURE_DEPENDS app/*.cpp app/*.h)
@@ -25,12 +31,16 @@ function(kaart_program)
                           addresses_window puzzle_window packs_window generators_window
                           libraries_window)
 
+    set(icons ${CMAKE_SOURCE_DIR}/packaging/icons)
+    file(GLOB files CONFIGURE_DEPENDS ${icons}/*.png)
+    qt_add_resources(app program PREFIX /program BASE ${icons} FILES ${files})
+
     add_executable(kaartwerkje app/main.cpp)
     target_link_libraries(kaartwerkje PRIVATE app)
+    set_target_properties(kaartwerkje PROPERTIES WIN32_EXECUTABLE ON)
 
-    set(folders Data Lijsten Ontwerpen Frames Templates Achtergronden Maskers Stickers Vectors)
     set(bin ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
-    foreach(folder ${folders})
+    foreach(folder ${KAART_FOLDERS})
         file(MAKE_DIRECTORY ${bin}/${folder})
         file(GLOB files CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/data/${folder}/*)
         foreach(file ${files})

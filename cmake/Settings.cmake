@@ -8,6 +8,8 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 
 option(KAART_SANITIZE "Build with AddressSanitizer and UBSan" OFF)
+option(KAART_BUS "Ask the desktop's bus (D-Bus) for screenshots and wallpapers" ${UNIX})
+option(KAART_TESTS "Build the tests and the benchmarks" ${UNIX})
 
 if(NOT CMAKE_BUILD_TYPE)
     set(CMAKE_BUILD_TYPE Release)
@@ -20,9 +22,15 @@ if(CCACHE)
         ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
 endif()
 
-add_compile_options(-Wall -Wextra -Wconversion -Wshadow -Werror)
-# Kernels promise results exact to the bit: no fused multiply-add behind their back.
-add_compile_options(-ffp-contract=off)
+if(MSVC)
+    # Its /fp:precise doesn't fuse either.
+    add_compile_options(/W4 /utf-8 /permissive- /fp:precise)
+    add_compile_definitions(NOMINMAX)
+else()
+    add_compile_options(-Wall -Wextra -Wconversion -Wshadow -Werror)
+    # Kernels promise results exact to the bit: no fused multiply-add behind their back.
+    add_compile_options(-ffp-contract=off)
+endif()
 add_compile_definitions(QT_NO_FOREACH)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     add_compile_options(-fpch-preprocess) # for ccache

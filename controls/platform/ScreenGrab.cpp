@@ -1,7 +1,9 @@
 #include "controls/platform/ScreenGrab.h"
 
 #include "controls/platform/LiveGrab.h"
+#ifdef QT_DBUS_LIB
 #include "controls/platform/PortalGrab.h"
+#endif
 
 #include <QGuiApplication>
 
@@ -13,9 +15,11 @@ bool needsPortal(const QString& platform, const QString& session) {
 }
 
 std::unique_ptr<ScreenGrab> makeScreenGrab() {
+#ifdef QT_DBUS_LIB
     if (needsPortal(QGuiApplication::platformName(), qEnvironmentVariable("XDG_SESSION_TYPE"))) {
         return std::make_unique<PortalGrab>();
     }
+#endif
     return std::make_unique<LiveGrab>();
 }
 

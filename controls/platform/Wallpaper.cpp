@@ -1,12 +1,14 @@
 #include "controls/platform/Wallpaper.h"
 
 #include "controls/Messages.h"
-#include "controls/platform/PlasmaWallpaper.h"
-#include "controls/platform/PortalWallpaper.h"
 #include "controls/platform/SettingsWallpaper.h"
 #include "controls/platform/WindowsWallpaper.h"
 #include "controls/platform/XfceWallpaper.h"
 #include "design/surface/PictureGate.h"
+#ifdef QT_DBUS_LIB
+#include "controls/platform/PlasmaWallpaper.h"
+#include "controls/platform/PortalWallpaper.h"
+#endif
 
 #include <QDir>
 #include <QStandardPaths>
@@ -14,6 +16,16 @@
 namespace kaart {
 
 namespace {
+
+#ifndef QT_DBUS_LIB
+// Systems without the desktop's bus.
+bool setPlasmaWallpaper(const QString&) {
+    return false;
+}
+bool setPortalWallpaper(const QString&) {
+    return false;
+}
+#endif
 
 bool setInOwnWay(const QString& file) {
     const QString names = qEnvironmentVariable("XDG_CURRENT_DESKTOP");

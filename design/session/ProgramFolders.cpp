@@ -1,10 +1,13 @@
 #include "design/session/ProgramFolders.h"
 
+#include "design/surface/TextFile.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 #include <QStandardPaths>
 #include <QTemporaryFile>
 
@@ -18,34 +21,67 @@ bool canWriteIn(const QString& folder) {
     return probe.open();
 }
 
+/// Where an installed program has its libraries; empty when they lie beside the executable.
+QString installedLibraries(const QString& executableFolder) {
+    const QString shared =
+        QDir::cleanPath(executableFolder + QStringLiteral("/../share/kaartwerkje"));
+    const bool apart = !QFileInfo::exists(executableFolder + QStringLiteral("/Lijsten")) &&
+                       QFileInfo(shared).isDir();
+    return apart ? shared : QString();
+}
+
+bool copyOnce(const QString& file, const QString& copy) {
+    if (QFileInfo::exists(copy)) {
+        return true;
+    }
+    if (!QDir().mkpath(QFileInfo(copy).path()) || !QFile::copy(file, copy)) {
+        return false;
+    }
+    // A write protected library would give a write protected copy.
+    QFile::setPermissions(copy, QFile::permissions(copy) | QFile::WriteUser);
+    return true;
+}
+
 } // namespace
 
-void seedFolder(const QString& from, const QString& to) {
+void seedFolders(const QString& from, const QString& to) {
+    const QString listFile = to + QStringLiteral("/Geleverd.txt");
+    const QStringList lines = splitLines(readTextFile(listFile).value_or(QString()));
+    QSet<QString> given(lines.begin(), lines.end());
+    const auto givenBefore = given.size();
     const QDir source(from);
-    QDirIterator files(from, QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        const QString file = files.next();
-        const QString copy = to + QLatin1Char('/') + source.relativeFilePath(file);
-        if (!QFileInfo::exists(copy) && QDir().mkpath(QFileInfo(copy).path()) &&
-            QFile::copy(file, copy)) {
-            QFile::setPermissions(copy, QFile::permissions(copy) | QFile::WriteUser);
+    for (const char* folder : {"Data", "Lijsten", "Ontwerpen", "Frames", "Templates",
+                               "Achtergronden", "Maskers", "Stickers", "Vectors"}) {
+        QDir().mkpath(to + QLatin1Char('/') + QLatin1String(folder));
+        QDirIterator files(source.filePath(QLatin1String(folder)), QDir::Files,
+                           QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            const QString file = files.next();
+            const QString name = source.relativeFilePath(file);
+            if (!given.contains(name) && copyOnce(file, to + QLatin1Char('/') + name)) {
+                given << name;
+            }
         }
+    }
+    if (given.size() != givenBefore) {
+        QStringList names = given.values();
+        names.sort();
+        writeTextFile(listFile, names.join(QStringLiteral("\r\n")) + QStringLiteral("\r\n"));
     }
 }
 
 ProgramFolders findProgramFolders() {
-    const QString beside = QCoreApplication::applicationDirPath();
+    return findProgramFolders(QCoreApplication::applicationDirPath());
+}
+
+ProgramFolders findProgramFolders(const QString& executableFolder) {
     const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
-    if (canWriteIn(beside)) {
-        return {beside, pictures};
+    const QString installed = installedLibraries(executableFolder);
+    if (installed.isEmpty() && canWriteIn(executableFolder)) {
+        return {executableFolder, pictures};
     }
     const QString own = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
-    for (const char* folder : {"Data", "Lijsten", "Ontwerpen", "Frames", "Templates",
-                               "Achtergronden", "Maskers", "Stickers", "Vectors"}) {
-        const QString name = QLatin1Char('/') + QLatin1String(folder);
-        QDir().mkpath(own + name);
-        seedFolder(beside + name, own + name);
-    }
+    seedFolders(installed.isEmpty() ? executableFolder : installed, own);
     return {own, pictures};
 }
 

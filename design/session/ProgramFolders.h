@@ -13,11 +13,17 @@ struct ProgramFolders {
     QString in(const QString& relative) const { return program + QLatin1Char('/') + relative; }
 };
 
-/// The executable's folder when it can be written to, otherwise a copy of it in the user's data
-/// folder, which is seeded with what it lacks and never overwritten.
+/// The executable's folder when it can be written to, otherwise a folder in the user's data folder,
+/// seeded from the libraries that lie beside the executable. Where `../share/kaartwerkje` holds
+/// them, as in an installed program, it is always the user's folder, for root too.
 ProgramFolders findProgramFolders();
+/// The same for an executable in another folder.
+ProgramFolders findProgramFolders(const QString& executableFolder);
 
-/// Copies every file below `from` that `to` does not have. What fails is left out.
-void seedFolder(const QString& from, const QString& to);
+/// Makes the library folders in `to` and copies what `from` has in them, each file once: one that
+/// `to` has already stays as it is, and one that the user has deleted stays away.
+/// "Geleverd.txt" in `to` lists what has been copied. A copy that fails is tried again the next
+/// time.
+void seedFolders(const QString& from, const QString& to);
 
 } // namespace kaart

@@ -2,7 +2,6 @@
 
 #include "controls/Art.h"
 #include "controls/ControlTable.h"
-#include "controls/Icons.h"
 #include "controls/Messages.h"
 #include "controls/Palette.h"
 #include "controls/VistaButton.h"
@@ -71,7 +70,6 @@ const std::span<const Main::Command> Main::commands = [] {
 Main::Main(Design& design, WindowTable windows) : design_(design), inside_(new QWidget) {
     setObjectName(QStringLiteral("Main"));
     setWindowTitle(QStringLiteral("Mijn Kaartwerkje"));
-    setWindowIcon(icon(QStringLiteral("kaartwerkje")));
     setBackColor(*this, windowColor);
     inside_->setObjectName(QStringLiteral("Inhoud"));
     setCentralWidget(inside_);

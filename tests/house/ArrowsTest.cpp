@@ -64,6 +64,14 @@ bool isWidgetHeader(const QString& header) {
     return false;
 }
 
+/// Headers that only one kind of system has.
+bool isSystemHeader(const QString& header) {
+    static const QRegularExpression ones(
+        R"(^(sys|linux|arpa|netinet|X11|xcb)/|^(unistd|fcntl|pwd|grp|dlfcn|poll|pthread|dirent|)"
+        R"(termios|strings|windows|shlobj|io|direct)\.h$)");
+    return header.contains(ones);
+}
+
 struct Include {
     QString name;
     bool own; ///< in quotes
@@ -89,6 +97,9 @@ QStringList faultsOf(const QString& path, const QString& text) {
         if (!include.own) {
             if (!mayKnowWidgets(room) && isWidgetHeader(include.name)) {
                 faults << at + ": only windows, controls and app know widgets";
+            }
+            if (!path.startsWith("controls/platform/") && isSystemHeader(include.name)) {
+                faults << at + ": only controls/platform knows the system";
             }
             continue;
         }
@@ -148,6 +159,10 @@ private slots:
         row("design/surface/A.cpp", "#include <QImage>", true);
         row("puzzle/window/A.cpp", "#include <QWidget>", true);
         row("output/A.cpp", "#include \"OptimisePicture.h\"", false);
+        row("output/A.cpp", "#include <unistd.h>", false);
+        row("controls/A.cpp", "#include <sys/stat.h>", false);
+        row("controls/platform/A.cpp", "#include <windows.h>", true);
+        row("packs/A.cpp", "#include <zip.h>", true);
     }
     void WrongArrowsAreFound() {
         QFETCH(QString, path);

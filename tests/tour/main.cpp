@@ -39,11 +39,9 @@ int main(int argc, char** argv) {
     const kaart::ProgramFolders work{folder + QStringLiteral("/werk"),
                                      folder + QStringLiteral("/werk/Afbeeldingen")};
     QDir().mkpath(work.pictures);
-    for (const char* name : {"Data", "Lijsten", "Frames", "Templates", "Achtergronden", "Maskers",
-                             "Stickers", "Vectors"}) {
-        const QString library = QLatin1Char('/') + QLatin1String(name);
-        kaart::seedFolder(QCoreApplication::applicationDirPath() + library, work.program + library);
-    }
+    // The libraries alone, not the designs that were saved beside them.
+    kaart::seedFolders(QCoreApplication::applicationDirPath(), work.program);
+    QDir(work.in(QStringLiteral("Ontwerpen"))).removeRecursively();
 
     kaart::Design design(work);
     kaart::Main window(design, kaart::windowTable());

@@ -64,15 +64,45 @@ private slots:
         QVERIFY(!readSettings(folder.filePath("niets.ini")).has_value());
     }
 
-    void SeedingAddsWhatIsMissingAndOverwritesNothing() {
+    void SeedingGivesEveryFileOnceAndOverwritesNothing() {
         const QTemporaryDir folder;
-        write(folder.filePath("van/Data/Gedicht.txt"), "nieuw");
-        write(folder.filePath("van/Data/Ander.txt"), "ander");
-        write(folder.filePath("naar/Data/Gedicht.txt"), "van de gebruiker");
-        seedFolder(folder.filePath("van"), folder.filePath("naar"));
-        QCOMPARE(read(folder.filePath("naar/Data/Gedicht.txt")), QByteArray("van de gebruiker"));
-        QCOMPARE(read(folder.filePath("naar/Data/Ander.txt")), QByteArray("ander"));
-        seedFolder(folder.filePath("nergens"), folder.filePath("naar"));
+        const QString from = folder.filePath("van");
+        const QString to = folder.filePath("naar");
+        write(from + "/Data/Gedicht.txt", "nieuw");
+        write(from + "/Data/map/Ander.txt", "ander");
+        QFile::setPermissions(from + "/Data/map/Ander.txt", QFile::ReadOwner);
+        write(to + "/Data/Gedicht.txt", "van de gebruiker");
+        seedFolders(from, to);
+        QCOMPARE(read(to + "/Data/Gedicht.txt"), QByteArray("van de gebruiker"));
+        QCOMPARE(read(to + "/Data/map/Ander.txt"), QByteArray("ander"));
+        QVERIFY(QFile::permissions(to + "/Data/map/Ander.txt") & QFile::WriteOwner);
+        QVERIFY(QFileInfo(to + "/Ontwerpen").isDir());
+
+        // The user clears up, and a new version has one more.
+        QVERIFY(QFile::remove(to + "/Data/Gedicht.txt"));
+        QVERIFY(QFile::remove(to + "/Data/map/Ander.txt"));
+        write(from + "/Lijsten/Lijst-009.fra", "rand");
+        seedFolders(from, to);
+        QVERIFY(!QFile::exists(to + "/Data/Gedicht.txt"));
+        QVERIFY(!QFile::exists(to + "/Data/map/Ander.txt"));
+        QCOMPARE(read(to + "/Lijsten/Lijst-009.fra"), QByteArray("rand"));
+        seedFolders(folder.filePath("nergens"), to);
+    }
+
+    void AnInstalledProgramWorksInTheUsersFolder() {
+        const QTemporaryDir folder;
+        write(folder.filePath("usr/share/kaartwerkje/Data/Gedicht.txt"), "nieuw");
+        QDir().mkpath(folder.filePath("usr/bin"));
+        qputenv("XDG_DATA_HOME", folder.filePath("thuis").toLocal8Bit());
+        const ProgramFolders installed = findProgramFolders(folder.filePath("usr/bin"));
+        QVERIFY(installed.program.startsWith(folder.filePath("thuis/")));
+        QCOMPARE(read(installed.in("Data/Gedicht.txt")), QByteArray("nieuw"));
+
+        // With libraries of its own beside it, it is a portable one, whatever its neighbours are.
+        QDir().mkpath(folder.filePath("usr/Kaartwerkje/Lijsten"));
+        QCOMPARE(findProgramFolders(folder.filePath("usr/Kaartwerkje")).program,
+                 folder.filePath("usr/Kaartwerkje"));
+        qunsetenv("XDG_DATA_HOME");
     }
 
     void HexadecimalColoursHaveSixDigits() {

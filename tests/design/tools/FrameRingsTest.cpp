@@ -1,12 +1,8 @@
 #include "design/tools/FrameRings.h"
 
-#include "design/surface/FileList.h"
 #include "design/surface/GraphicsCalls.h"
-#include "design/surface/PictureGate.h"
 #include "tests/support/Pictures.h"
 #include "tests/support/Test.h"
-
-#include <QTemporaryDir>
 
 using namespace kaart;
 
@@ -59,22 +55,6 @@ private slots:
         PixelSurface pic(9, 9);
         TekenLijst(pic, PixelSurface(3, 1), 0, 0, 8, 8); // smaller than a frame file should be
         comparePictures(pic.Image(), PixelSurface(9, 9).Image());
-    }
-
-    void OurOwnFramesAreRingsThatEndInWhite() {
-        const QString folder =
-            qEnvironmentVariable("KAART_SOURCE") + QStringLiteral("/data/Lijsten/");
-        const QStringList names = fileNames(folder, {QStringLiteral("*.fra")});
-        QCOMPARE(names.size(), 8);
-        QCOMPARE(names.value(0), QStringLiteral("Lijst-001.fra"));
-        for (const QString& name : names) {
-            PixelSurface frame(80, 80);
-            frame.setPicture(LoadPicture(folder + name).value_or(QImage()));
-            PixelSurface pic(440, 640);
-            TekenLijst(pic, frame, 0, 0, 440, 640);
-            QVERIFY2(pic.Point(0, 320) != white && pic.Point(439, 320) != white, qPrintable(name));
-            QVERIFY2(pic.Point(15, 320) != white && pic.Point(40, 320) == white, qPrintable(name));
-        }
     }
 };
 

@@ -1,0 +1,13 @@
+# Read by cpack for each kind of package: what goes into it, and where.
+if(CPACK_GENERATOR STREQUAL "DEB")
+    set(component system)
+    set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+else()
+    set(component portable)
+    set(CPACK_PACKAGING_INSTALL_PREFIX /Kaartwerkje)
+    set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY OFF)
+    set(CPACK_PACKAGE_FILE_NAME Kaartwerkje-${CPACK_PACKAGE_VERSION}-${CPACK_SYSTEM_NAME})
+endif()
+list(GET CPACK_INSTALL_CMAKE_PROJECTS 0 build_folder)
+list(GET CPACK_INSTALL_CMAKE_PROJECTS 1 project)
+set(CPACK_INSTALL_CMAKE_PROJECTS ${build_folder} ${project} ${component} /)
