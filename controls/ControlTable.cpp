@@ -2,6 +2,7 @@
 
 #include "controls/Fader.h"
 #include "controls/Icons.h"
+#include "controls/Mnemonics.h"
 #include "controls/Palette.h"
 #include "controls/SurfaceView.h"
 #include "controls/TitledFrame.h"
@@ -103,9 +104,10 @@ QWidget* makeControl(ControlKind kind, const QString& caption) {
     return nullptr;
 }
 
-void showIcon(VistaButton& button, const char* name) {
+void dress(VistaButton& button, const ControlRow& row) {
     constexpr int room = 12; // above and below the icon together
-    button.setIcon(icon(QString::fromUtf8(name)));
+    button.setIcon(icon(QString::fromUtf8(row.icon)));
+    button.tellKeys(QString::fromUtf8(row.keys));
     constexpr int smallest = 16;
     const int side = qMax(smallest, button.height() - room);
     button.setIconSize(QSize(side, side));
@@ -125,10 +127,11 @@ void buildControls(QWidget& window, std::span<const ControlRow> rows) {
             made->setAccessibleName(made->toolTip().trimmed());
         }
         place(*made, row.left, row.top, row.width, row.height);
-        if (*row.icon != '\0') {
-            showIcon(control<VistaButton>(window, row.name), row.icon);
+        if (auto* button = qobject_cast<VistaButton*>(made)) {
+            dress(*button, row);
         }
     }
+    giveMnemonics(window);
 }
 
 void place(QWidget& control, int left, int top) {

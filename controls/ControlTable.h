@@ -40,9 +40,11 @@ struct ControlRow {
     const char* caption = "";
     const char* toolTip = "";
     const char* icon = ""; ///< of a button: a name for icon() of Icons.h
+    const char* keys = ""; ///< of a button: keys of its window that do the same
 };
 
-/// Creates the controls of a table in a window, hidden or shown as their kind is by default.
+/// Creates the controls of a table in a window, hidden or shown as their kind is by default, and
+/// gives its captions their letters (Mnemonics.h).
 void buildControls(QWidget& window, std::span<const ControlRow> rows);
 
 /// Puts a control at a place given in twips, with a size in twips where one is given.

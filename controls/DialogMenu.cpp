@@ -1,5 +1,6 @@
 #include "controls/DialogMenu.h"
 
+#include "controls/Mnemonics.h"
 #include "design/surface/Numbers.h"
 
 #include <QAction>
@@ -20,6 +21,7 @@ QAction& addEntry(QWidget& menu, const char* name, const QString& caption,
     entry->setObjectName(QString::fromUtf8(name));
     menu.addAction(entry);
     QObject::connect(entry, &QAction::triggered, &menu, run);
+    giveMnemonics(*menu.window());
     return *entry;
 }
 

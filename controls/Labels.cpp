@@ -14,7 +14,11 @@ void makeParagraph(QLabel& label) {
 void nameByLabels(const QWidget& window,
                   std::initializer_list<std::pair<const char*, const char*>> fields) {
     for (const auto& [field, label] : fields) {
-        control<QWidget>(window, field).setAccessibleName(control<QLabel>(window, label).text());
+        auto& named = control<QWidget>(window, field);
+        auto& name = control<QLabel>(window, label);
+        named.setAccessibleName(name.text());
+        // Screen readers take the accessible name of a list of choices for its value.
+        name.setBuddy(&named);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "controls/Palette.h"
 
+#include "controls/FocusRing.h"
+
 #include <QApplication>
 #include <QPalette>
 #include <QStyleFactory>
@@ -44,6 +46,7 @@ void applyHouseStyle() {
     palette.setColor(QPalette::ToolTipText, QColor(40, 40, 40));
     QApplication::setPalette(palette);
     QToolTip::setPalette(palette);
+    new FocusRing(*qApp);
 }
 
 } // namespace kaart

@@ -20,7 +20,8 @@ void setForeColor(QWidget& widget, ColorRef fore);
 inline constexpr ColorRef windowColor = RGB(230, 230, 190);
 
 /// The program's common look: fixed fonts in pixels, since windows are laid out in pixels, and a
-/// warm palette. To be called once on the application, before the first window.
+/// warm palette, and a ring round what the keyboard acts on. To be called once on the application,
+/// before the first window.
 void applyHouseStyle();
 
 } // namespace kaart

@@ -1,5 +1,6 @@
 #include "controls/Shades.h"
 
+#include <QPainter>
 #include <QWidget>
 
 namespace kaart {
@@ -10,6 +11,13 @@ QColor mixed(const QColor& from, const QColor& to, double share) {
     };
     return QColor::fromRgbF(between(from.redF(), to.redF()), between(from.greenF(), to.greenF()),
                             between(from.blueF(), to.blueF()));
+}
+
+void fillFrame(QPainter& painter, const QRect& box, int width, const QBrush& ink) {
+    painter.fillRect(QRect(box.left(), box.top(), box.width(), width), ink);
+    painter.fillRect(QRect(box.left(), box.bottom() + 1 - width, box.width(), width), ink);
+    painter.fillRect(QRect(box.left(), box.top(), width, box.height()), ink);
+    painter.fillRect(QRect(box.right() + 1 - width, box.top(), width, box.height()), ink);
 }
 
 bool showsFocusRing(const QWidget& widget) {

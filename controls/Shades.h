@@ -2,6 +2,9 @@
 
 #include <QColor>
 
+class QBrush;
+class QPainter;
+class QRect;
 class QWidget;
 
 namespace kaart {
@@ -16,6 +19,9 @@ QColor mixed(const QColor& from, const QColor& to, double share);
 inline QColor warmAccent() {
     return {232, 130, 36};
 }
+
+/// A frame of so many whole pixels along the inside of a box, at any magnification of the screen.
+void fillFrame(QPainter& painter, const QRect& box, int width, const QBrush& ink);
 
 /// Whether a widget is to show that the keyboard acts on it: it has the focus and the user moved
 /// the focus with the keyboard since the window opened.

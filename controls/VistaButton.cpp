@@ -1,10 +1,13 @@
 #include "controls/VistaButton.h"
 
+#include "controls/Mnemonics.h"
 #include "controls/Shades.h"
 
-#include <QEvent>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyle>
+#include <QToolTip>
 
 namespace kaart {
 
@@ -108,6 +111,13 @@ Content contentOf(const VistaButton& button) {
             QRect(left + shift, 0, words.width(), button.height() - 1)};
 }
 
+QString captionToDraw(const VistaButton& button) {
+    const QKeySequence keys = button.shortcut();
+    const bool lettered =
+        keys.count() == 1 && keys[0].keyboardModifiers() == Qt::AltModifier && keys[0].key() < 0x80;
+    return lettered ? withMnemonic(button.text(), QChar(keys[0].key())) : button.text();
+}
+
 void paintContent(QPainter& painter, const VistaButton& button) {
     const Content content = contentOf(button);
     const int sink = button.isDown() ? 1 : 0;
@@ -118,7 +128,11 @@ void paintContent(QPainter& painter, const VistaButton& button) {
                             button.isChecked() ? QIcon::On : QIcon::Off);
     }
     painter.setPen(button.palette().color(QPalette::ButtonText));
-    painter.drawText(content.words, Qt::AlignCenter | Qt::TextShowMnemonic, button.text());
+    const bool underlined =
+        button.style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, &button);
+    painter.drawText(content.words,
+                     Qt::AlignCenter | (underlined ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
+                     captionToDraw(button));
 }
 
 } // namespace
@@ -137,6 +151,17 @@ QSize VistaButton::sizeHint() const {
             qMax(picture.height(), words.height()) + 2 * margin};
 }
 
+QString VistaButton::toolTipWithKeys() const {
+    QStringList keys{shortcut().toString(QKeySequence::NativeText), keys_};
+    keys.removeAll(QString());
+    if (keys.isEmpty()) {
+        return toolTip();
+    }
+    const QString what =
+        toolTip().isEmpty() ? QStringLiteral(" %1 ").arg(text().trimmed()) : toolTip();
+    return QStringLiteral("%1(%2) ").arg(what, keys.join(QStringLiteral(" of ")));
+}
+
 void VistaButton::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -147,6 +172,10 @@ void VistaButton::paintEvent(QPaintEvent* /*event*/) {
 bool VistaButton::event(QEvent* event) {
     if (event->type() == QEvent::ToolTipChange && text().isEmpty()) {
         setAccessibleName(toolTip().trimmed());
+    }
+    if (event->type() == QEvent::ToolTip) {
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), toolTipWithKeys(), this);
+        return true;
     }
     return QAbstractButton::event(event);
 }

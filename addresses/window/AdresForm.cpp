@@ -3,6 +3,7 @@
 #include "addresses/PrintAdressen.h"
 #include "controls/Art.h"
 #include "controls/ControlTable.h"
+#include "controls/Labels.h"
 #include "controls/Messages.h"
 #include "controls/Palette.h"
 #include "controls/Printers.h"
@@ -53,9 +54,10 @@ const ControlRow controls[] = {
      " Bovenstaande adres verwijderen "},
     {ControlKind::Button, "", "Knop(3)", 3570, 3810, 1050, 360, "Afdrukken",
      " Alle adressen afdrukken "},
-    {ControlKind::Button, "", "CancelKnop", 5870, 3810, 960, 360, "", " Annuleren ", "annuleren"},
     {ControlKind::Button, "", "SaveKnop", 6870, 3810, 960, 360, "", " Opslaan en afsluiten ",
      "opslaan"},
+    {ControlKind::Button, "", "CancelKnop", 5870, 3810, 960, 360, "", " Annuleren ", "annuleren",
+     "Esc"},
     {ControlKind::ListView, "", "ListView1", 0, 0, 15, 15},
 };
 
@@ -90,13 +92,14 @@ void AdresForm::colourControls() {
 }
 
 void AdresForm::nameControls() {
-    const char* const labels[addressFields] = {"Label1", "Label2", nullptr,  nullptr,
-                                               "Label4", "Label5", "Label6", "Label9"};
-    for (int field = 0; field < addressFields; ++field) {
-        control<QLineEdit>(*this, "Text1", field)
-            .setAccessibleName(labels[field] == nullptr
-                                   ? addressHeaders()[field]
-                                   : control<QLabel>(*this, labels[field]).text());
+    nameByLabels(*this, {{"Text1(0)", "Label1"},
+                         {"Text1(1)", "Label2"},
+                         {"Text1(4)", "Label4"},
+                         {"Text1(5)", "Label5"},
+                         {"Text1(6)", "Label6"},
+                         {"Text1(7)", "Label9"}});
+    for (const int field : {2, 3}) { // share a label
+        control<QLineEdit>(*this, "Text1", field).setAccessibleName(addressHeaders()[field]);
     }
     control<QWidget>(*this, "HScroll1").setAccessibleName(QStringLiteral("Adres"));
 }

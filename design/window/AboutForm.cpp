@@ -19,7 +19,7 @@ constexpr std::array table = {
     ControlRow{Label, "", "Image1", 375, 225, 2700, 2100},
     ControlRow{Label, "", "Label1", 3300, 600, 3900, 900,
                "This program is design by Brelmo\nwww.brelmo.example"},
-    ControlRow{Button, "", "CancelKnop", 5400, 1815, 1800, 510, "Sluiten", "", "ok"},
+    ControlRow{Button, "", "CancelKnop", 5400, 1815, 1800, 510, "Sluiten", "", "ok", "Esc"},
 };
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "design/window/Canvas.h"
 
+#include "controls/KeyPointer.h"
 #include "controls/Palette.h"
 #include "design/surface/Numbers.h"
 #include "design/tools/Rulers.h"
@@ -54,8 +55,8 @@ Canvas::Canvas(Design& design, QWidget* parent)
     xyCor_.hide();
     showRulers(false);
     setMouseTracking(true);
-    // So that a text field left behind doesn't keep the shortcuts.
-    setFocusPolicy(Qt::ClickFocus);
+    // A click takes the focus, too: else a text field left behind would keep the shortcuts.
+    new KeyPointer(*this);
     setCursor(Qt::CrossCursor);
 
     connect(&design, &Design::picChanged, this, [this](const QRect& pixels) { update(pixels); });
@@ -93,11 +94,11 @@ void Canvas::showRulers(bool shown) {
 }
 
 void Canvas::mousePressEvent(QMouseEvent* event) {
-    mouse_.press(buttonOf(*event), event->position().toPoint());
+    mouse_.press(buttonOf(*event), pixelAt(*event));
 }
 
 void Canvas::mouseMoveEvent(QMouseEvent* event) {
-    const QPoint at = event->position().toPoint();
+    const QPoint at = pixelAt(*event);
     emit mouseMoved(at);
     horLijn_.move(0, at.y());
     verLijn_.move(at.x(), 0);
@@ -105,7 +106,7 @@ void Canvas::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void Canvas::mouseReleaseEvent(QMouseEvent* event) {
-    mouse_.release(buttonOf(*event), event->position().toPoint());
+    mouse_.release(buttonOf(*event), pixelAt(*event));
 }
 
 } // namespace kaart

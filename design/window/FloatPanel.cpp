@@ -1,6 +1,7 @@
 #include "design/window/FloatPanel.h"
 
 #include "controls/ControlTable.h"
+#include "controls/Shades.h"
 #include "design/session/Algemeen.h"
 #include "design/surface/Numbers.h"
 #include "design/tools/FloatingPicture.h"
@@ -46,6 +47,7 @@ FloatPanel::FloatPanel(QMainWindow& window, Design& design)
     setAccessibleName(QStringLiteral("Zwevende afbeelding"));
     setCursor(Qt::SizeAllCursor);
     setFocusPolicy(Qt::StrongFocus);
+    setProperty("showsFocus", true); // a ring outside would hide where it is going to
     show(design.ClipPic);
     follow();
     for (const int index : plakEntries) {
@@ -76,19 +78,19 @@ void FloatPanel::follow() {
 void FloatPanel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.drawImage(QPoint(floatFrame, floatFrame), Image());
-    painter.setPen(QColor(60, 60, 60));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    fillFrame(painter, rect(), floatFrame,
+              showsFocusRing(*this) ? warmAccent() : QColor(60, 60, 60));
 }
 
 void FloatPanel::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) {
-        grabFloat(design_, event->position().toPoint());
+        grabFloat(design_, pixelAt(*event));
     }
 }
 
 void FloatPanel::mouseMoveEvent(QMouseEvent* event) {
     if (event->buttons().testFlag(Qt::LeftButton)) {
-        dragFloat(design_, event->position().toPoint());
+        dragFloat(design_, pixelAt(*event));
     }
 }
 
@@ -115,6 +117,9 @@ void FloatPanel::keyPressEvent(QKeyEvent* event) {
         return moveFloat(design_, {0, -1});
     case Qt::Key_Down:
         return moveFloat(design_, {0, 1});
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return popUp(mapToGlobal(rect().center()));
     default:
         SurfaceView::keyPressEvent(event);
     }

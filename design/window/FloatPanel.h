@@ -9,9 +9,9 @@
 namespace kaart {
 
 /// The view `ClipPic` of the floating picture, above the canvas `Pic` and clipped by it, with a
-/// thin frame of one pixel on each side outside the picture. The left button drags it, over any
-/// edge, and so do the arrow keys; the release of the right button, or the menu key, opens the
-/// pop-up `Plakken`.
+/// thin frame of one pixel on each side outside the picture, orange under the keyboard. The left
+/// button drags it, over any edge, and so do the arrow keys; the release of the right button,
+/// the menu key or Enter opens the pop-up `Plakken`.
 class FloatPanel : public SurfaceView {
     Q_OBJECT
 

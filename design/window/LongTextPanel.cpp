@@ -2,6 +2,7 @@
 
 #include "controls/ControlTable.h"
 #include "controls/Messages.h"
+#include "controls/SurfaceView.h"
 #include "controls/TextLines.h"
 #include "controls/VistaButton.h"
 #include "design/session/Algemeen.h"
@@ -11,6 +12,7 @@
 
 #include <QCheckBox>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
@@ -38,6 +40,8 @@ LongTextPanel::LongTextPanel(QWidget& window, Design& design)
     label->setObjectName(QStringLiteral("TextLabel2"));
     label->setCursor(Qt::SizeAllCursor);
     label->installEventFilter(this);
+    label->setFocusPolicy(Qt::StrongFocus);
+    label->setAccessibleName(QStringLiteral("Zwevende tekst"));
 
     for (int i = 0; i < alignKnops; ++i) {
         connect(&control<VistaButton>(window, "AlignKnop", i), &QAbstractButton::clicked, this,
@@ -136,15 +140,54 @@ void LongTextPanel::showName() {
 
 void LongTextPanel::PlaatsKnop2() {
     hangLongText(design_, HaalRegels(control<QPlainTextEdit>(window_, "Text2")));
-    control<QLabel>(window_, "TextLabel2").raise();
+    auto& label = control<QLabel>(window_, "TextLabel2");
+    label.raise();
+    label.setFocus();
+}
+
+void LongTextPanel::placeText() {
+    // Or the focus would go to the next control by itself, which may be a text field.
+    control<QWidget>(window_, "Pic").setFocus();
+    placeLongText(design_, HaalRegels(control<QPlainTextEdit>(window_, "Text2")));
+}
+
+/// Moves the hanging text with the arrow keys and places it with Enter.
+bool LongTextPanel::pressKey(int key) {
+    QPoint by;
+    switch (key) {
+    case Qt::Key_Left:
+        by = {-1, 0};
+        break;
+    case Qt::Key_Right:
+        by = {1, 0};
+        break;
+    case Qt::Key_Up:
+        by = {0, -1};
+        break;
+    case Qt::Key_Down:
+        by = {0, 1};
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        placeText();
+        return true;
+    default:
+        return false;
+    }
+    grabLongText(design_, {});
+    dragLongText(design_, by);
+    return true;
 }
 
 bool LongTextPanel::eventFilter(QObject*, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        return pressKey(static_cast<const QKeyEvent*>(event)->key());
+    }
     const auto* mouse = dynamic_cast<const QMouseEvent*>(event);
     if (mouse == nullptr) {
         return false;
     }
-    const QPoint at = mouse->position().toPoint();
+    const QPoint at = pixelAt(*mouse);
     switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
@@ -158,7 +201,7 @@ bool LongTextPanel::eventFilter(QObject*, QEvent* event) {
     case QEvent::MouseButtonRelease:
         if (mouse->button() == Qt::RightButton) {
             dragLongText(design_, at);
-            placeLongText(design_, HaalRegels(control<QPlainTextEdit>(window_, "Text2")));
+            placeText();
         }
         break;
     default:

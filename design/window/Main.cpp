@@ -91,6 +91,7 @@ Main::Main(Design& design, WindowTable windows) : design_(design), inside_(new Q
     fillControls(*inside_);
     showOrientation();
     loadSettings();
+    orderTabs();
     canvas_->setFocus();
     layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
@@ -124,6 +125,13 @@ void Main::buildPanels() {
         setBackColor(control<QLabel>(*inside_, field), RGB(255, 255, 248));
     }
     showArt(control<QLabel>(*inside_, "Banier"), QStringLiteral("Banier"));
+}
+
+/// From the panels on the left over the canvas, and what may hang above it, to those on the right.
+void Main::orderTabs() {
+    setTabOrder(&control<QWidget>(*inside_, "PlaatsKnop2"), canvas_);
+    setTabOrder(canvas_, &control<QWidget>(*inside_, "ClipPic"));
+    setTabOrder(&control<QWidget>(*inside_, "ClipPic"), &control<QWidget>(*inside_, "TextLabel2"));
 }
 
 void Main::connectControls() {

@@ -35,6 +35,7 @@ private:
     static const std::span<const Command> commands;
 
     void buildPanels();
+    void orderTabs();
     void connectControls();
     void connectMenus(WindowTable windows);
     void loadSettings();

@@ -1,5 +1,6 @@
 #include "design/window/MenuTable.h"
 
+#include "controls/Mnemonics.h"
 #include "filters/FilterTable.h"
 
 #include <QAction>
@@ -184,6 +185,7 @@ void buildMenus(QMainWindow& window) {
             makeMenu(window, row, caption)->setObjectName(fullName(row.name, row.index));
         }
     }
+    giveMnemonics(window);
 }
 
 void enableEntry(const QMainWindow& window, const QString& name, const std::function<void()>& run) {

@@ -90,6 +90,7 @@ void connectParameterSliders(QWidget& window, Design& design) {
     for (const ParameterSlider& row : parameters) {
         auto& slider = control<QScrollBar>(window, row.slider);
         slider.setRange(row.low, row.high);
+        control<QLabel>(window, row.label).setBuddy(&slider);
         const auto take = [&window, &design, &row](int value) {
             design.*row.variable = value;
             control<QLabel>(window, row.label).setText(QString::fromUtf8(row.caption).arg(value));

@@ -2,6 +2,7 @@
 
 #include "controls/ChoiceLists.h"
 #include "controls/ControlTable.h"
+#include "controls/Labels.h"
 
 #include <QAbstractSlider>
 #include <QCheckBox>
@@ -69,6 +70,12 @@ void fillControls(QWidget& window) {
     fill("Combo4", numberList(3, 6));
     fill("Combo5", numberList(3, 6));
     fill("Combo6", {QStringLiteral("G"), QStringLiteral("S"), QStringLiteral("M")});
+    nameByLabels(window, {{"Combo1", "Label14"},
+                          {"Combo2", "Label15"},
+                          {"Combo3", "Label20"},
+                          {"Combo4", "Label23"},
+                          {"Combo5", "Label24"},
+                          {"Combo6", "Label26"}});
     setStartValues(window, QStringLiteral("Mijn tekst"));
 }
 

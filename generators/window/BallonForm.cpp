@@ -36,7 +36,8 @@ const ControlRow controls[] = {
     {ControlKind::Button, "", "FlipVerKnop", 1050, 5700, 810, 480, "", " Vertikaal Spiegelen ",
      "spiegel-verticaal"},
     {ControlKind::Button, "", "ExportKnop", 4860, 5700, 1650, 480, "Export", "", "plaatsen"},
-    {ControlKind::Button, "", "CancelKnop", 6630, 5700, 1650, 480, "Annuleren", "", "annuleren"},
+    {ControlKind::Button, "", "CancelKnop", 6630, 5700, 1650, 480, "Annuleren", "", "annuleren",
+     "Esc"},
 };
 
 } // namespace
@@ -59,7 +60,7 @@ void BallonForm::dress() {
         Img_.at(static_cast<std::size_t>(index)) = renderFlatArt(name, stored);
         auto& button = control<VistaButton>(*this, "Knop", index);
         const QSize size = stored * 2 / 3;
-        button.setIcon(QPixmap::fromImage(renderArt(name, size)));
+        button.setIcon(QIcon(QStringLiteral(":/art/%1.svg").arg(name)));
         button.setIconSize(size);
     }
     control<QScrollBar>(*this, "VScroll1").setOrientation(Qt::Vertical);

@@ -29,7 +29,7 @@ const ControlRow controls[] = {
     {ControlKind::Check, "", "inoutchk", 2370, 1560, 810, 300, "Out"},
     {ControlKind::Button, "", "KaderKnop", 3360, 1455, 1800, 510, "Kader", "", "kader"},
     {ControlKind::Button, "", "ResetKnop", 180, 2340, 1800, 510, "Reset", "", "reset"},
-    {ControlKind::Button, "", "CancelKnop", 3360, 2340, 1800, 510, "Sluiten", "", "ok"},
+    {ControlKind::Button, "", "CancelKnop", 3360, 2340, 1800, 510, "Sluiten", "", "ok", "Esc"},
     {ControlKind::Surface, "", "Picture1", 0, 0, 15, 15},
 };
 
@@ -63,6 +63,7 @@ BlokkenForm::BlokkenForm(Design& design, QWidget* parent)
 void BlokkenForm::fillControls() {
     auto& fader = control<Fader>(*this, "Hscroll2");
     setBackColor(fader, RGB(250, 250, 150));
+    control<QLabel>(*this, "Label4").setBuddy(&fader);
     fader.setRange(0, 100);
     fader.setValue(firstTransparency);
     setBackColor(control<QComboBox>(*this, "BevSize"), RGB(230, 230, 240));

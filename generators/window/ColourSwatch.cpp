@@ -1,11 +1,9 @@
 #include "generators/window/ColourSwatch.h"
 
 #include "controls/Palette.h"
-#include "controls/Shades.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
 
 namespace kaart {
 
@@ -35,15 +33,6 @@ void ColourSwatch::keyPressEvent(QKeyEvent* event) {
         break;
     default:
         QLabel::keyPressEvent(event);
-    }
-}
-
-void ColourSwatch::paintEvent(QPaintEvent* event) {
-    QLabel::paintEvent(event);
-    if (showsFocusRing(*this)) {
-        QPainter painter(this);
-        painter.setPen(QPen(warmAccent(), 2));
-        painter.drawRect(rect().adjusted(1, 1, -1, -1));
     }
 }
 

@@ -36,7 +36,8 @@ const ControlRow controls[] = {
      "Rechtermuisknop is object vullen met vulkleur"},
     {ControlKind::Button, "", "ResetKnop", 7080, 5340, 2160, 480, "Reset", "", "reset"},
     {ControlKind::Button, "", "ExportKnop", 7080, 5940, 2160, 480, "Export", "", "plaatsen"},
-    {ControlKind::Button, "", "CancelKnop", 7080, 6540, 2160, 480, "Annuleren", "", "annuleren"},
+    {ControlKind::Button, "", "CancelKnop", 7080, 6540, 2160, 480, "Annuleren", "", "annuleren",
+     "Esc"},
 };
 
 constexpr ColorRef firstFillColour = 0x0000FFFF;
@@ -62,7 +63,9 @@ PolyGonForm::PolyGonForm(Design& design, QWidget* parent)
     setBackColor(*this, windowColor);
     buildSwatches(); // above all else, also for the Tab key
     buildControls(*this, controls);
+    setTabOrder(&control<QWidget>(*this, "lblColor", static_cast<int>(swatches.size())), Picture1_);
     Picture1_->setObjectName(QStringLiteral("Picture1"));
+    Picture1_->setAccessibleName(QStringLiteral("Tekenvel"));
     place(*Picture1_, 120, 1020);
     Picture1_->raise();
     makeParagraph(control<QLabel>(*this, "Label1"));
@@ -79,6 +82,7 @@ void PolyGonForm::buildSwatches() {
     };
     fillColour_ = make(0, firstFillColour);
     fillColour_->setFocusPolicy(Qt::NoFocus);
+    fillColour_->setAttribute(Qt::WA_TransparentForMouseEvents); // it only shows
     place(*fillColour_, 120, 330, 600, 525);
     for (int i = 0; i < static_cast<int>(swatches.size()); ++i) {
         ColourSwatch* swatch = make(i + 1, swatches.at(static_cast<std::size_t>(i)));

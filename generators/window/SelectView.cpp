@@ -1,5 +1,6 @@
 #include "generators/window/SelectView.h"
 
+#include "controls/KeyPointer.h"
 #include "design/session/Design.h"
 #include "design/surface/DragRect.h"
 #include "design/surface/Numbers.h"
@@ -17,6 +18,7 @@ SelectView::SelectView(Design& design, Frame frame, const QSize& size, QWidget* 
     surface().setSize(size.width(), size.height());
     shape_.setObjectName(QStringLiteral("SelectShape"));
     setCursor(Qt::CrossCursor);
+    new KeyPointer(*this);
 }
 
 void SelectView::hideSelection() {
@@ -35,7 +37,7 @@ QImage SelectView::selection() const {
 }
 
 void SelectView::mousePressEvent(QMouseEvent* event) {
-    const QPoint at = event->position().toPoint();
+    const QPoint at = pixelAt(*event);
     if (event->button() == Qt::RightButton) {
         emit rightPressed(at);
     }
@@ -52,7 +54,7 @@ void SelectView::mousePressEvent(QMouseEvent* event) {
 
 void SelectView::mouseMoveEvent(QMouseEvent* event) {
     if (event->buttons().testFlag(Qt::LeftButton) && selected_.Visible) {
-        stretchTo(event->position().toPoint());
+        stretchTo(pixelAt(*event));
     }
 }
 
@@ -61,7 +63,7 @@ void SelectView::mouseReleaseEvent(QMouseEvent* event) {
         return;
     }
     if (frame_ == Frame::Square && selected_.Width == 0) {
-        stretchTo(event->position().toPoint());
+        stretchTo(pixelAt(*event));
     }
     emit selected();
 }

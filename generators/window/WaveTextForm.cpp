@@ -5,6 +5,7 @@
 #include "controls/Fader.h"
 #include "controls/Labels.h"
 #include "controls/Messages.h"
+#include "controls/Mnemonics.h"
 #include "controls/Palette.h"
 #include "controls/VistaButton.h"
 #include "design/session/Algemeen.h"
@@ -42,7 +43,8 @@ const ControlRow controls[] = {
      "Selecteer een rechthoek om de tekst dat je wilt copyeren.\n"
      "Klik vervolgens op de 'Export' knop."},
     {ControlKind::Button, "", "ExportKnop", 6600, 6510, 1830, 510, "Export", "", "plaatsen"},
-    {ControlKind::Button, "", "CancelKnop", 8565, 6510, 1830, 510, "Annuleren", "", "annuleren"},
+    {ControlKind::Button, "", "CancelKnop", 8565, 6510, 1830, 510, "Annuleren", "", "annuleren",
+     "Esc"},
 };
 
 constexpr const char* palettes[] = {"Grijs", "Rood", "Groen", "Blauw", "Paars", "Geel"};
@@ -78,6 +80,7 @@ WaveTextForm::WaveTextForm(Design& design, QWidget* parent) : QDialog(parent), d
 void WaveTextForm::buildPictures() {
     Pic_ = new SelectView(design_, SelectView::Frame::Free, pictureSize, this);
     Pic_->setObjectName(QStringLiteral("Pic"));
+    Pic_->setAccessibleName(QStringLiteral("Gebogen tekst"));
     place(*Pic_, 120, 120);
     BackPic_ = new SurfaceView(this);
     BackPic_->setObjectName(QStringLiteral("BackPic"));
@@ -106,18 +109,26 @@ void WaveTextForm::buildFrame(const CurveFrame& curve) {
         auto& slider = control<Fader>(*this, row.name);
         slider.setAccessibleName(QString::fromUtf8(curve.caption).trimmed() + QLatin1Char(' ') +
                                  QString::fromUtf8(row.label));
+        control<QLabel>(*this, row.labelName).setBuddy(&slider);
         slider.setRange(row.low, row.high);
         slider.setValue(row.start);
         connect(&slider, &Fader::valueChanged, this, [this, &curve] { draw(curve); });
     }
 }
 
-/// The buttons that close the window come after all sliders.
+/// The picture comes first, and the buttons that close the window come after all sliders.
 void WaveTextForm::orderTabs() {
+    QWidget* before = Pic_;
+    for (const char* name : {"Text1", "Combo1", "Combo2", "BoldCheck", "KleurKnop"}) {
+        auto& next = control<QWidget>(*this, name);
+        setTabOrder(before, &next);
+        before = &next;
+    }
     auto& last = control<QWidget>(*this, curveFrames().back().sliders.back().name);
     auto& exportKnop = control<QWidget>(*this, "ExportKnop");
     setTabOrder(&last, &exportKnop);
     setTabOrder(&exportKnop, &control<QWidget>(*this, "CancelKnop"));
+    control<QWidget>(*this, "Text1").setFocus();
 }
 
 void WaveTextForm::buildMenu() {
@@ -133,6 +144,7 @@ void WaveTextForm::buildMenu() {
         });
         ++index;
     }
+    giveMnemonics(*menu);
     auto& button = control<VistaButton>(*this, "KleurKnop");
     connect(&button, &VistaButton::clicked, menu,
             [&button, menu] { menu->popup(button.mapToGlobal(button.rect().bottomLeft())); });

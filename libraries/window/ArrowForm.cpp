@@ -1,6 +1,7 @@
 #include "libraries/window/ArrowForm.h"
 
 #include "controls/ControlTable.h"
+#include "controls/KeyPointer.h"
 #include "controls/Labels.h"
 #include "controls/Messages.h"
 #include "controls/Palette.h"
@@ -42,7 +43,8 @@ const ControlRow controls[] = {
     {ControlKind::Option, "", "Option1(1)", 1785, 4095, 4380, 300,
      "Kleine afbeelding gebruiken (50 x 50 Pixels)"},
     {ControlKind::Button, "", "ExportKnop", 135, 4560, 2955, 480, "Export", "", "plaatsen"},
-    {ControlKind::Button, "", "CancelKnop", 3210, 4560, 2955, 480, "Annuleren", "", "annuleren"},
+    {ControlKind::Button, "", "CancelKnop", 3210, 4560, 2955, 480, "Annuleren", "", "annuleren",
+     "Esc"},
 };
 
 } // namespace
@@ -78,6 +80,8 @@ void ArrowForm::dress() {
 
 void ArrowForm::connectControls() {
     control<QWidget>(*this, "Pic").installEventFilter(this);
+    control<QWidget>(*this, "Pic").setAccessibleName(QStringLiteral("Afbeeldingen"));
+    new KeyPointer(control<QWidget>(*this, "Pic"));
     for (int cell = 0; cell < ArrowSheet::perRow; ++cell) {
         auto* keys =
             new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + cell)), this);
@@ -116,7 +120,7 @@ bool ArrowForm::eventFilter(QObject* watched, QEvent* event) {
     if (!pressed) {
         return QDialog::eventFilter(watched, event);
     }
-    pick(static_cast<QMouseEvent*>(event)->position().toPoint().x());
+    pick(pixelAt(static_cast<const QMouseEvent&>(*event)).x());
     return true;
 }
 

@@ -1,6 +1,7 @@
 #include "libraries/window/BlackForm.h"
 
 #include "controls/ControlTable.h"
+#include "controls/KeyPointer.h"
 #include "controls/Labels.h"
 #include "controls/Messages.h"
 #include "controls/OverlayShape.h"
@@ -40,8 +41,8 @@ const ControlRow controls[] = {
     {ControlKind::Label, "", "Label2", 180, 4380, 6600, 660},
     {ControlKind::List, "", "List1", 7410, 150, 2190, 3630},
     {ControlKind::Label, "", "Label5", 7440, 3840, 2160, 270},
-    {ControlKind::Button, "", "CancelKnop", 7620, 4500, 930, 360, "Sluiten"},
     {ControlKind::Button, "", "ExportKnop", 8610, 4500, 930, 360, "Export"},
+    {ControlKind::Button, "", "CancelKnop", 7620, 4500, 930, 360, "Sluiten", "", "", "Esc"},
 };
 
 } // namespace
@@ -81,6 +82,11 @@ void BlackForm::dress() {
     list.setFocus();
     makeParagraph(control<QLabel>(*this, "Label2"));
     control<QWidget>(*this, "Pic").setCursor(Qt::CrossCursor);
+    control<QWidget>(*this, "Pic").setAccessibleName(QStringLiteral("Afbeelding"));
+    control<QWidget>(*this, "CopyPic").setAccessibleName(QStringLiteral("Uitsnede"));
+    for (const char* name : {"Pic", "CopyPic"}) {
+        new KeyPointer(control<QWidget>(*this, name));
+    }
 }
 
 void BlackForm::connectControls() {
@@ -179,7 +185,7 @@ bool BlackForm::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void BlackForm::select(const QMouseEvent& mouse) {
-    const QPoint at = mouse.position().toPoint();
+    const QPoint at = pixelAt(mouse);
     if (mouse.type() == QEvent::MouseMove) {
         if (mouse.buttons().testFlag(Qt::LeftButton)) {
             const QPoint begin(roundEven(design_.BeginX), roundEven(design_.BeginY));
@@ -204,8 +210,10 @@ void BlackForm::select(const QMouseEvent& mouse) {
 void BlackForm::makeCut() {
     drawing_.cut(layer_->geometry());
     control<SurfaceView>(*this, "CopyPic").show(drawing_.CopyPic);
-    control<QWidget>(*this, "Pic").hide();
+    // First, so that the keyboard goes on in the cut-out and not at the next control.
     control<QWidget>(*this, "CopyPic").show();
+    control<QWidget>(*this, "CopyPic").setFocus();
+    control<QWidget>(*this, "Pic").hide();
     auto& help = control<QLabel>(*this, "Label2");
     setForeColor(help, RGB(180, 0, 0));
     help.setText(QStringLiteral(
@@ -220,7 +228,7 @@ void BlackForm::erase(const QMouseEvent& mouse) {
         }
         return;
     }
-    const QPoint at = mouse.position().toPoint();
+    const QPoint at = pixelAt(mouse);
     gum_->setGeometry(eraserCursor(at));
     if (!mouse.buttons().testFlag(Qt::LeftButton)) {
         return;

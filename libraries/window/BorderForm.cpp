@@ -38,7 +38,8 @@ const ControlRow controls[] = {
      " Toepassen op het ontwerp ", "ok"},
     {ControlKind::Button, "", "DelKnop", 4320, 3300, 2970, 405, "Verwijderen",
      " Gekozen bestand verwijderen ", "verwijderen"},
-    {ControlKind::Button, "", "CancelKnop", 4320, 3765, 2970, 405, "Annuleren", "", "annuleren"},
+    {ControlKind::Button, "", "CancelKnop", 4320, 3765, 2970, 405, "Annuleren", "", "annuleren",
+     "Esc"},
 };
 
 struct Library {

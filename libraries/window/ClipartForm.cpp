@@ -1,6 +1,7 @@
 #include "libraries/window/ClipartForm.h"
 
 #include "controls/ControlTable.h"
+#include "controls/KeyPointer.h"
 #include "controls/Labels.h"
 #include "controls/Messages.h"
 #include "controls/Palette.h"
@@ -51,7 +52,8 @@ const ControlRow controls[] = {
      "deze te selecteren, de grootte kun je wijzigen met de verschuifbare scrolbalk, klik als "
      "laatste op de Exportknop."},
     {ControlKind::Button, "", "ExportKnop", 5490, 6705, 2985, 480, "Export", "", "plaatsen"},
-    {ControlKind::Button, "", "CancelKnop", 5490, 7275, 2985, 480, "Annuleren", "", "annuleren"},
+    {ControlKind::Button, "", "CancelKnop", 5490, 7275, 2985, 480, "Annuleren", "", "annuleren",
+     "Esc"},
 };
 
 /// Shows the sticker and the bar of progress row by row.
@@ -102,7 +104,7 @@ void ClipartForm::dress() {
     auto& combo = control<QComboBox>(*this, "Combo1");
     setForeColor(combo, RGB(0, 0, 40));
     setBackColor(combo, RGB(220, 220, 240));
-    combo.setAccessibleName(QStringLiteral("Bibliotheek"));
+    nameByLabels(*this, {{"Combo1", "Label2"}});
     auto& size = control<QScrollBar>(*this, "VScroll2");
     makePositionBar(size, Qt::Vertical, 110, stickerCell.width());
     size.setPageStep(20);
@@ -112,6 +114,8 @@ void ClipartForm::dress() {
 
 void ClipartForm::connectControls() {
     control<QWidget>(*this, "Pic").installEventFilter(this);
+    control<QWidget>(*this, "Pic").setAccessibleName(QStringLiteral("Stickers"));
+    new KeyPointer(control<QWidget>(*this, "Pic"));
     for (int cell = 0; cell < 5; ++cell) {
         auto* keys =
             new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + cell)), this);
@@ -160,7 +164,7 @@ bool ClipartForm::eventFilter(QObject* watched, QEvent* event) {
     if (!pressed) {
         return QDialog::eventFilter(watched, event);
     }
-    pick(static_cast<QMouseEvent*>(event)->position().toPoint());
+    pick(pixelAt(static_cast<const QMouseEvent&>(*event)));
     return true;
 }
 

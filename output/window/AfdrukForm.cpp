@@ -59,7 +59,7 @@ const ControlRow controls[] = {
     {ControlKind::Label, "", "Label3", 2970, 1230, 1020, 240, "Linkerkant"},
     {ControlKind::EditCombo, "", "LMcombo", 3060, 1485, 840, 360},
     {ControlKind::Label, "", "Image1", 3990, 870, 1140, 1590},
-    {ControlKind::Label, "", "Label7", 5085, 1230, 1110, 240, "Rechterkant"},
+    {ControlKind::Label, "", "Label7", 5130, 1230, 1020, 240, "Rechterkant"},
     {ControlKind::EditCombo, "", "RMcombo", 5220, 1485, 840, 360},
     {ControlKind::EditCombo, "", "BMcombo", 4140, 2580, 840, 360},
     {ControlKind::Label, "", "Label6", 4020, 2970, 1080, 240, "Onderkant"},
@@ -73,8 +73,10 @@ const ControlRow controls[] = {
      "Met de 4 keuze balkjes kun je resp. de boven, linker, rechter en onderafstand instellen "
      "vanaf de zijkant van het."
      "papier (A4) tot aan de zijkant van de afbeelding."},
-    {ControlKind::Button, "", "PrintKnop", 5460, 4530, 1620, 510, "Afdrukken", "", "afdrukken"},
-    {ControlKind::Button, "", "CancelKnop", 7260, 4530, 1620, 510, "Annuleren", "", "annuleren"},
+    {ControlKind::Button, "", "PrintKnop", 5460, 4530, 1620, 510, "Afdrukken", "", "afdrukken",
+     "Enter"},
+    {ControlKind::Button, "", "CancelKnop", 7260, 4530, 1620, 510, "Annuleren", "", "annuleren",
+     "Esc"},
 };
 
 void fillNumbers(QComboBox& combo, int first, int last, const QString& text) {
@@ -143,7 +145,9 @@ void AfdrukForm::fillLists() {
                          {"TMcombo", "Label4"},
                          {"RMcombo", "Label7"},
                          {"BMcombo", "Label6"}});
-    control<QWidget>(*this, "Combo3").setAccessibleName(QStringLiteral("Jaar"));
+    auto& year = control<QWidget>(*this, "Combo3");
+    year.setAccessibleName(QStringLiteral("Jaar"));
+    year.setAccessibleDescription(year.accessibleName());
 }
 
 void AfdrukForm::fillMargins() {
@@ -156,8 +160,9 @@ void AfdrukForm::fillMargins() {
 }
 
 void AfdrukForm::showArt() {
+    kaart::showArt(control<QLabel>(*this, "Image1"), QStringLiteral("Blad"));
+    // Parts of the preview, whose pixels are its own.
     const std::pair<const char*, QString> drawings[] = {
-        {"Image1", QStringLiteral("Blad")},
         {"Image2", QStringLiteral("Kalender-Staand")},
         {"Image3", QStringLiteral("Kalender-Liggend")}};
     for (const auto& [name, drawing] : drawings) {

@@ -30,8 +30,9 @@ const ControlRow controls[] = {
     {ControlKind::Label, "", "Label2", 180, 3735, 3120, 270},
     {ControlKind::Value, "", "Label1", 3480, 180, 2475, 1725},
     {ControlKind::Surface, "", "Pic1", 3510, 210, thumbnailLong, thumbnailShort},
-    {ControlKind::Button, "", "OkKnop", 3480, 2895, 2475, 480, "OK", "", "openen"},
-    {ControlKind::Button, "", "CancelKnop", 3480, 3480, 2475, 480, "Annuleren", "", "annuleren"},
+    {ControlKind::Button, "", "OkKnop", 3480, 2895, 2475, 480, "OK", "", "openen", "Enter"},
+    {ControlKind::Button, "", "CancelKnop", 3480, 3480, 2475, 480, "Annuleren", "", "annuleren",
+     "Esc"},
 };
 
 } // namespace

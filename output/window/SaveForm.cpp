@@ -27,8 +27,9 @@ const ControlRow controls[] = {
     {ControlKind::Label, "", "Label1", 4665, 240, 540, 360, "0%"},
     {ControlKind::Label, "", "Label2", 150, 690, 4950, 570,
      "Typ hierboven een naam in voor het ontwerp en klik daarna op de knop 'Opslaan'"},
-    {ControlKind::Button, "", "SaveKnop", 1020, 1440, 1500, 480, "Opslaan", "", "opslaan"},
-    {ControlKind::Button, "", "CancelKnop", 2730, 1440, 1500, 480, "Annuleren", "", "annuleren"},
+    {ControlKind::Button, "", "SaveKnop", 1020, 1440, 1500, 480, "Opslaan", "", "opslaan", "Enter"},
+    {ControlKind::Button, "", "CancelKnop", 2730, 1440, 1500, 480, "Annuleren", "", "annuleren",
+     "Esc"},
 };
 
 } // namespace

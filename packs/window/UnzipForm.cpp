@@ -42,7 +42,7 @@ const ControlRow controls[] = {
     {ControlKind::Label, "", "Label1", 3420, 180, 5220, 3465, helpText},
     {ControlKind::Label, "", "Label2", 3420, 3765, 5220, 270, "Naam Zip-Bestand"},
     {ControlKind::Button, "", "UnzipKnop", 3420, 4440, 2520, 480, "Uitpakken", "", "uitpakken"},
-    {ControlKind::Button, "", "CancelKnop", 6120, 4440, 2520, 480, "Sluiten", "", "ok"},
+    {ControlKind::Button, "", "CancelKnop", 6120, 4440, 2520, 480, "Sluiten", "", "ok", "Esc"},
 };
 
 } // namespace

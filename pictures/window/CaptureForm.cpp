@@ -1,6 +1,7 @@
 #include "pictures/window/CaptureForm.h"
 
 #include "controls/DialogMenu.h"
+#include "controls/KeyPointer.h"
 #include "controls/OverlayShape.h"
 #include "controls/Palette.h"
 #include "controls/SurfaceView.h"
@@ -88,6 +89,8 @@ QWidget* CaptureForm::buildSheet() {
     pic_->surface().BackColor = RGB(250, 240, 210);
     pic_->surface().AutoSize = true;
     pic_->installEventFilter(this);
+    pic_->setAccessibleName(QStringLiteral("Beeldscherm"));
+    new KeyPointer(*pic_);
     picture1_ = new SurfaceView(sheet);
     picture1_->setObjectName(QStringLiteral("Picture1"));
     picture1_->surface().AutoSize = true;
@@ -188,7 +191,7 @@ bool CaptureForm::eventFilter(QObject* watched, QEvent* event) {
     if (mouse == nullptr) {
         return QDialog::eventFilter(watched, event);
     }
-    const QPoint at = mouse->position().toPoint();
+    const QPoint at = pixelAt(*mouse);
     if (event->type() == QEvent::MouseButtonPress) {
         press(at, mouse->button());
     } else if (event->type() == QEvent::MouseMove && mouse->buttons().testFlag(Qt::LeftButton)) {

@@ -28,7 +28,8 @@ const ControlRow controls[] = {
     {ControlKind::Surface, "", "Image1", 5940, 180, 2520, 1650},
     {ControlKind::Label, "", "Label2", 5940, 2775, 2520, 270, "0 x 0 Pixels"},
     {ControlKind::Button, "", "ExportKnop", 5940, 3135, 2520, 480, "Plaatsen", "", "plaatsen"},
-    {ControlKind::Button, "", "CancelKnop", 5940, 3735, 2520, 480, "Annuleren", "", "annuleren"},
+    {ControlKind::Button, "", "CancelKnop", 5940, 3735, 2520, 480, "Annuleren", "", "annuleren",
+     "Esc"},
 };
 
 constexpr ColorRef fieldColor = RGB(230, 230, 230);

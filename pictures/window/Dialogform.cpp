@@ -2,6 +2,7 @@
 
 #include "controls/ControlTable.h"
 #include "controls/DialogMenu.h"
+#include "controls/Mnemonics.h"
 #include "controls/Palette.h"
 #include "controls/PlainToolTip.h"
 #include "controls/PositionBar.h"
@@ -40,8 +41,9 @@ const ControlRow controls[] = {
     {ControlKind::Scroll, "", "VScroll1", 12120, 540, 240, 6780},
     {ControlKind::Surface, "", "Bar", 3060, 7455, 7515, 150},
     {ControlKind::Label, "", "Label1", 10560, 7395, 1800, 270, "Grootte"},
-    {ControlKind::Button, "", "OkKnop", 180, 6615, 2700, 480, "OK", "", "ok"},
-    {ControlKind::Button, "", "CancelKnop", 180, 7185, 2700, 480, "Annuleren", "", "annuleren"},
+    {ControlKind::Button, "", "OkKnop", 180, 6615, 2700, 480, "OK", "", "ok", "Enter"},
+    {ControlKind::Button, "", "CancelKnop", 180, 7185, 2700, 480, "Annuleren", "", "annuleren",
+     "Esc"},
 };
 
 constexpr ColorRef fieldColor = RGB(220, 220, 220);
@@ -271,6 +273,7 @@ void Dialogform::switchView() {
     control<QWidget>(*this, "HelpPic").setVisible(large);
     control<QAction>(*this, "Help")
         .setText(large ? QStringLiteral("Tumbnails") : QStringLiteral("Afbeelding"));
+    giveMnemonics(*findChild<QMenuBar*>());
     fitScroll();
 }
 

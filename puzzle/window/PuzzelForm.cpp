@@ -39,7 +39,7 @@ const ControlRow controls[] = {
      "Selecteer één van de vakjes van de afbeelding, verschuif deze met ingedrukte "
      "linkermuisknop naar de juiste plaats waar dit vakje moet komen te staan."},
     {ControlKind::Button, "Frame1", "CancelKnop", 8580, 2340, 990, 360, "", " Sluiten ",
-     "annuleren"},
+     "annuleren", "Esc"},
     {ControlKind::Surface, "", "BackPic", 0, 0, 15, 15},
 };
 
@@ -70,6 +70,7 @@ PuzzelForm::PuzzelForm(Design& design, QWidget* parent) : QDialog(parent), desig
     buildControls(*this, controls);
     puzzle_ = new Puzzle(this);
     puzzle_->setObjectName(QStringLiteral("Puzzle1"));
+    setTabOrder(puzzle_, &control<QWidget>(*this, "CancelKnop"));
     makeParagraph(control<QLabel>(*this, "Label1"));
     connect(&control<VistaButton>(*this, "CancelKnop"), &VistaButton::clicked, this,
             &PuzzelForm::reject);

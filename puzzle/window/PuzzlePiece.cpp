@@ -1,6 +1,7 @@
 #include "puzzle/window/PuzzlePiece.h"
 
 #include "controls/Palette.h"
+#include "controls/Shades.h"
 #include "design/surface/Numbers.h"
 
 #include <QPainter>
@@ -16,19 +17,11 @@ constexpr ColorRef targetColor = RGB(40, 150, 40);
 constexpr int markWidth = 4;
 constexpr double ghostOpacity = 0.85;
 
-/// A frame of whole pixels along the inside of a box.
-void drawFrame(QPainter& painter, const QRect& box, int width, ColorRef colour) {
-    const QColor ink = toQColor(colour);
-    painter.fillRect(box.left(), box.top(), box.width(), width, ink);
-    painter.fillRect(box.left(), box.bottom() + 1 - width, box.width(), width, ink);
-    painter.fillRect(box.left(), box.top(), width, box.height(), ink);
-    painter.fillRect(box.right() + 1 - width, box.top(), width, box.height(), ink);
-}
-
 /// A frame that is seen on every picture.
 void drawMark(QPainter& painter, const QRect& box, ColorRef colour) {
-    drawFrame(painter, box, markWidth, colour);
-    drawFrame(painter, box.marginsRemoved({markWidth, markWidth, markWidth, markWidth}), 1, white);
+    fillFrame(painter, box, markWidth, toQColor(colour));
+    fillFrame(painter, box.marginsRemoved({markWidth, markWidth, markWidth, markWidth}), 1,
+              Qt::white);
 }
 
 } // namespace
@@ -61,7 +54,9 @@ void PuzzlePiece::setMarks(const PieceMarks& marks) {
 }
 
 QPixmap PuzzlePiece::ghost() const {
-    QPixmap pixmap(size());
+    const double ratio = devicePixelRatioF();
+    QPixmap pixmap((QSizeF(size()) * ratio).toSize());
+    pixmap.setDevicePixelRatio(ratio);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setOpacity(ghostOpacity);
@@ -78,7 +73,7 @@ void PuzzlePiece::paintEvent(QPaintEvent* event) {
         painter.fillRect(rect(), QColor(255, 255, 255, 140));
     }
     if (border_ == 1) {
-        drawFrame(painter, rect(), 1, borderColor);
+        fillFrame(painter, rect(), 1, toQColor(borderColor));
     }
     if (marks_.target) {
         drawMark(painter, rect(), targetColor);

@@ -58,6 +58,7 @@ void ScoreForm::buildList() {
     }
     list.header()->setSectionsClickable(true);
     list.header()->setSectionsMovable(false);
+    list.header()->setToolTip(QStringLiteral(" Sorteren (Ctrl+1 tot Ctrl+%1) ").arg(scoreColumns));
     list.setAccessibleName(QStringLiteral("Puntenlijst"));
     showRows();
 }

@@ -166,6 +166,22 @@ private slots:
         QCOMPARE(desk.design.Pic().Point(50, 30), white);
     }
 
+    void ShortcutsWorkWhereverTheFocusIs() {
+        Desk desk;
+        desk.click(6);
+        QApplication::setActiveWindow(&desk.window);
+        opened = 0;
+        int tried = 0;
+        for (QWidget* at : desk.window.centralWidget()->findChildren<QWidget*>()) {
+            if (at->isVisible() && at->isEnabled() && at->focusPolicy() != Qt::NoFocus) {
+                at->setFocus();
+                QTest::keyClick(at, Qt::Key_S, Qt::ControlModifier);
+                QCOMPARE(std::pair(opened, at->objectName()), std::pair(++tried, at->objectName()));
+            }
+        }
+        QVERIFY(tried > 30);
+    }
+
     void ARightClickMovesTheFillSliders() {
         Desk desk;
         desk.design.change([](PixelSurface& pic) { pic.PSet(7, 8, RGB(10, 20, 30)); });

@@ -137,6 +137,13 @@ private slots:
         QTest::mouseClick(&label, Qt::RightButton, {}, QPoint(20, 3));
         QVERIFY(!label.isVisible());
         comparePictures(desk.design.Pic().Image(), seen);
+
+        desk.click("PlaatsKnop2");
+        QTest::keyClick(&label, Qt::Key_Down);
+        QTest::keyClick(&label, Qt::Key_Right);
+        QCOMPARE(label.pos(), QPoint(1, 1));
+        QTest::keyClick(&label, Qt::Key_Return);
+        QVERIFY(!label.isVisible() && desk.design.Pic().Image() != seen);
     }
 
     void LinesAreThoseOnTheScreen() {

@@ -141,7 +141,7 @@ private slots:
         pickLine(1);
         QCOMPARE(shown("HelpPic").pixel(19, 29), qRgb(0, 0, 255));
         QCOMPARE(shown("HelpPic").pixel(20, 30), qRgb(40, 40, 40));
-        QCOMPARE(form_->findChild<QAction*>("Help")->text(), QStringLiteral("Tumbnails"));
+        QCOMPARE(form_->findChild<QAction*>("Help")->text(), QStringLiteral("T&umbnails"));
         menu("Help");
         QVERIFY(!part("HelpPic")->isVisible() && part("Picture1")->isVisible());
     }
