@@ -229,6 +229,15 @@ private slots:
                 lying.height());
     }
 
+    void TheManualsAreWhole() {
+        for (const char* name : {"Data/Help.pdf", "Data/Beeldscherm.pdf"}) {
+            QFile manual(dataFile(QString::fromLatin1(name)));
+            QVERIFY2(manual.open(QIODevice::ReadOnly), name);
+            const QByteArray bytes = manual.readAll();
+            QVERIFY2(bytes.startsWith("%PDF-") && bytes.trimmed().endsWith("%%EOF"), name);
+        }
+    }
+
     void TheBoxIsNoLargerThanTenMegabytes() {
         qint64 bytes = 0;
         for (const QString& folder :

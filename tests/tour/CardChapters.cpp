@@ -99,7 +99,7 @@ void switchPanels(User& user, Design&) {
 }
 
 void saveDesign(User& user, Design& design) {
-    user.during([&] { user.menu(QStringLiteral("File"), QStringLiteral("FileSave"), true); },
+    user.during([&] { user.menu(QStringLiteral("File"), QStringLiteral("FileSave")); },
                 [&] {
                     user.click(QStringLiteral("Text1"));
                     user.type(QStringLiteral("Drie ballonnen"));
@@ -145,7 +145,7 @@ void printSheets(User& user, Design& design) {
 }
 
 void lieDown(User& user, Design& design) {
-    user.menu(QStringLiteral("Orientation"), QStringLiteral("Richting(2)"), true);
+    user.menu(QStringLiteral("Orientation"), QStringLiteral("Richting(2)"));
     pickColour(user, "HScroll1", RGB(138, 79, 125));
     user.slide(QStringLiteral("HScroll2"), 4);
     drawBalloon(user, {180, 150}, 80, RGB(91, 154, 61));

@@ -15,6 +15,7 @@ void CardMaker::picture(int kind, const QString& file) {
     const QString entry = QStringLiteral("ToolsBorders(%1)").arg(kind);
     inWindow(user_, "Tools", qPrintable(entry), [&] {
         pickRow(user_, file);
+        user_.photo(file.section(QLatin1Char('-'), 0, 0).toLower());
         user_.click(QStringLiteral("ExportKnop"));
     });
 }

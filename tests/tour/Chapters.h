@@ -16,7 +16,7 @@ std::span<const Chapter> cardChapters();
 std::span<const Chapter> filterChapters();
 std::span<const Chapter> paperChapters();
 std::span<const Chapter> artChapters();
+std::span<const Chapter> finishedCards();
 std::span<const Chapter> puzzleChapters();
 std::span<const Chapter> pictureChapters();
-std::span<const Chapter> finishedCards();
 std::span<const Chapter> lastChapters();

@@ -34,7 +34,7 @@ void tryOut(User& user, const Design& design, const char* menu, const char* entr
 
 void tryFilters(User& user, Design& design) {
     const QImage before = design.Pic().Image();
-    user.menu(QStringLiteral("Filters"), QStringLiteral("Filter(4)"), true);
+    user.menu(QStringLiteral("Filters"), QStringLiteral("Filter(4)"));
     if (!isGray(design.Pic().Point(35, 325)) || !isGray(design.Pic().Point(200, 90))) {
         user.fail(QStringLiteral("the card is not gray"));
     }
@@ -75,7 +75,8 @@ void tellAround(User& user, Design& design) {
             user.press(Qt::Key_Return);
         });
     };
-    readBox([&] { user.press(Qt::Key_C, Qt::ControlModifier); }, "clipboard");
+    readBox([&] { user.menu(QStringLiteral("Efit"), QStringLiteral("EditClipboard")); },
+            "clipboard");
     if (QGuiApplication::clipboard()->image().convertToFormat(QImage::Format_RGB32) !=
         design.Pic().Image()) {
         user.fail(QStringLiteral("the clipboard has another picture"));

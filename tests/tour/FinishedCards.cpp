@@ -98,8 +98,8 @@ constexpr std::array table = {
     Chapter{"a wedding", wedding},
     Chapter{"Christmas", christmas},
     Chapter{"a new house", moved},
-    Chapter{"thanks", thanks},
     Chapter{"a year of tulips", yearOfTulips},
+    Chapter{"thanks", thanks},
 };
 
 } // namespace

@@ -31,9 +31,7 @@ void keepAddresses(User& user, Design& design) {
     };
     const QString path = tourFile(design, QStringLiteral("Adressen.pdf"));
     user.during(
-        [&] {
-            user.menu(QStringLiteral("Gereedschap"), QStringLiteral("GereedschapAdressen"), true);
-        },
+        [&] { user.menu(QStringLiteral("Gereedschap"), QStringLiteral("GereedschapAdressen")); },
         [&] {
             user.during([&] { user.click(QStringLiteral("Knop(0)")); },
                         [&] { user.press(Qt::Key_Return); });

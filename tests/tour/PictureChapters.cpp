@@ -89,6 +89,7 @@ void captureScreen(User& user, Design& design) {
     other.setFixedSize(shown.size()); // a new window takes but a part of a low screen
     other.move(0, 0);
     inWindow(user, "Gereedschap", "GereedschapCapture", [&] {
+        user.photo(QStringLiteral("schermafdruk-begin"));
         other.show();
         user.wait();
         clickBar(user, "Afdruk");

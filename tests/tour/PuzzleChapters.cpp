@@ -1,3 +1,4 @@
+#include "puzzle/ScoreList.h"
 #include "tests/tour/Chapters.h"
 #include "tests/tour/Steps.h"
 
@@ -74,8 +75,9 @@ void shuffle(User& user, QWidget& puzzle) {
 void readScores(User& user) {
     auto& list = dynamic_cast<QTreeView&>(user.find(QStringLiteral("ListView1")));
     user.photo(QStringLiteral("scorelijst"));
-    if (list.model()->index(0, 0).data().toString() != player ||
-        list.model()->index(0, 1).data().toString().isEmpty()) {
+    const int added = list.model()->rowCount() - 1;
+    if (list.model()->index(added, 0).data().toString() != player ||
+        list.model()->index(added, 1).data().toString().isEmpty()) {
         user.fail(QStringLiteral("the player is not in the list"));
     }
     QHeaderView* header = list.header();
@@ -109,7 +111,20 @@ void finish(User& user, QWidget& puzzle) {
                 });
 }
 
+/// Others have played before.
+void fillScores(const Design& design) {
+    SavePuzzel({.Rows = {{QStringLiteral("Daan"), QStringLiteral("4 x 4            S"),
+                          QStringLiteral("00:02:41"), QStringLiteral("23"), QStringLiteral("185")},
+                         {QStringLiteral("Sophie"), QStringLiteral("3 x 3            M"),
+                          QStringLiteral("00:01:12"), QStringLiteral("11"), QStringLiteral("240")},
+                         {QStringLiteral("Opa Kees"), QStringLiteral("6 x 5            S"),
+                          QStringLiteral("00:06:05"), QStringLiteral("44"), QStringLiteral("310")}},
+                .ColumnCount = scoreColumns},
+               design.Folders.in(QStringLiteral("Data/Scorelijst.col")));
+}
+
 void solvePuzzle(User& user, Design& design) {
+    fillScores(design);
     user.choose(QStringLiteral("Combo6"), QStringLiteral("G"));
     user.during([&] { user.click(QStringLiteral("StartKnop")); },
                 [&] {

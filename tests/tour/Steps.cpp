@@ -95,6 +95,9 @@ void print(User& user, const Design& design, int option, const QString& file) {
                         user.click(QStringLiteral("Check1"));
                     } else {
                         user.click(QStringLiteral("Option1(%1)").arg(option));
+                        if (option == 3) { // a year of which the calendar knows the weekdays
+                            user.choose(QStringLiteral("Combo3"), QStringLiteral("2020"));
+                        }
                     }
                     user.during([&] { user.click(QStringLiteral("PrintKnop")); },
                                 [&] {

@@ -183,7 +183,7 @@ void User::choose(const QString& name, const QString& text) const {
     wait();
 }
 
-void User::menu(const QString& menu, const QString& entry, bool picture) {
+void User::menu(const QString& menu, const QString& entry) {
     auto* window = qobject_cast<QMainWindow*>(front());
     auto* found = window == nullptr ? nullptr : window->findChild<QMenu*>(menu);
     if (found == nullptr) {
@@ -193,7 +193,8 @@ void User::menu(const QString& menu, const QString& entry, bool picture) {
     QMenuBar* bar = window->menuBar();
     QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(found->menuAction()).center());
     wait();
-    if (picture) {
+    if (!menusSeen_.contains(menu)) {
+        menusSeen_ << menu;
         photo(QStringLiteral("menu-") + menu.toLower());
     }
     chooseEntry(*found, entry);

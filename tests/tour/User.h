@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QPoint>
-#include <QString>
+#include <QStringList>
 #include <QWidget>
 
 #include <functional>
@@ -36,8 +36,8 @@ public:
     void slide(const QString& name, int value) const;
     /// Chooses an entry of a drop-down list.
     void choose(const QString& name, const QString& text) const;
-    /// Opens a menu of the bar and chooses an entry of it.
-    void menu(const QString& menu, const QString& entry, bool picture = false);
+    /// Opens a menu of the bar, of which the first time a picture is taken, and chooses an entry.
+    void menu(const QString& menu, const QString& entry);
 
     /// Does something that opens a window or pop-up, and acts in it while it is in front.
     void during(const std::function<void()>& opens, const std::function<void()>& inside) const;
@@ -56,5 +56,6 @@ private:
 
     QString folder_;
     int photos_ = 0;
+    QStringList menusSeen_;
     mutable bool failed_ = false;
 };

@@ -49,7 +49,7 @@ int main(int argc, char** argv) {
     User user(folder);
     user.wait(300);
     for (const auto part : {cardChapters(), filterChapters(), paperChapters(), artChapters(),
-                            puzzleChapters(), pictureChapters(), finishedCards(), lastChapters()}) {
+                            finishedCards(), puzzleChapters(), pictureChapters(), lastChapters()}) {
         if (!play(part, user, design)) {
             return 1;
         }
