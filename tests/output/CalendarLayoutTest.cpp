@@ -11,11 +11,9 @@ namespace {
 QStringList written(const QList<CalendarWord>& words) {
     QStringList lines;
     for (const CalendarWord& word : words) {
-        lines << QStringLiteral("Print %1 %2 Arial %3 bold ")
-                         .arg(word.place.x())
-                         .arg(word.place.y())
-                         .arg(word.size) +
-                     word.colour + ' ' + word.text;
+        lines << QString::asprintf("Print %d %d Arial %d bold %s ", word.place.x(), word.place.y(),
+                                   word.size, word.colour) +
+                     word.text;
     }
     return lines;
 }
@@ -66,28 +64,19 @@ private slots:
     }
 
     void SheetIsDrawnLineByLine() {
-        const QStringList log = recorded(2016, true, 1);
-        const QStringList begin{"Sheet 1",
-                                "Print 5220 450 Arial 20 bold 000000  2016 ",
-                                "PaintPicture 885 1050 9785 6600 from 0 0 640 440",
-                                "Line 870 8220 3180 8220 000000",
-                                "Line 3180 8220 3180 10620 000000",
-                                "Line 3180 10620 870 10620 000000",
-                                "Line 870 10620 870 8220 000000",
-                                "Print 1500 8250 Arial 10 bold 202020   Januari",
-                                "Line 870 8520 2970 8520 000000",
-                                "Line 870 8520 1200 8520 000000",
-                                "Line 1200 8520 1200 8820 000000",
-                                "Line 1200 8820 870 8820 000000",
-                                "Line 870 8820 870 8520 000000",
-                                "Print 930 8580 Arial 8 bold 0000C8 Zo"};
-        QCOMPARE(log.mid(0, begin.size()), begin);
-        const QStringList lines = log.filter("Line ");
+        const QStringList lines = recorded(2016, true, 1).filter("Line ");
+        const auto box = [](int left, int top, int right, int bottom) {
+            const auto line = [](int x, int y, int toX, int toY) {
+                return QString::asprintf("Line %d %d %d %d 000000", x, y, toX, toY);
+            };
+            return QStringList{line(left, top, right, top), line(right, top, right, bottom),
+                               line(right, bottom, left, bottom), line(left, bottom, left, top)};
+        };
+        QCOMPARE(lines.first(4), box(870, 8220, 3180, 10620));
+        QCOMPARE(lines[4], "Line 870 8520 2970 8520 000000");
+        QCOMPARE(lines.mid(5, 4), box(870, 8520, 1200, 8820));
         QCOMPARE(lines.size(), 12 * (4 + 1 + 4 * 7 + 4 * 42));
-        QCOMPARE(lines.mid(lines.size() - 4), QStringList({"Line 10365 15480 10695 15480 000000",
-                                                           "Line 10695 15480 10695 15780 000000",
-                                                           "Line 10695 15780 10365 15780 000000",
-                                                           "Line 10365 15780 10365 15480 000000"}));
+        QCOMPARE(lines.last(4), box(10365, 15480, 10695, 15780));
     }
 };
 

@@ -64,6 +64,11 @@ class DesignFileTest : public QObject {
         return names;
     }
 
+    bool saveOnFullDisk() const {
+        const FullDisk full(1000);
+        return saveDesign(folders_, "Feest", design_);
+    }
+
 private slots:
     void init() {
         QDir(root_.path()).removeRecursively();
@@ -76,11 +81,9 @@ private slots:
 
     void SavedDesignIsABmpWithAJpegCopyAndNothingElse() {
         QVERIFY(saveDesign(folders_, " Feest é", design_));
-        QCOMPARE(allFiles(), QStringList({QStringLiteral("pictures/ Feest é.jpg"),
-                                          QStringLiteral("program/Ontwerpen/ Feest é.bmp")}));
-        const auto read = LoadPicture(designPath(folders_, " Feest é"));
-        QVERIFY(read);
-        comparePictures(*read, design_);
+        QCOMPARE(allFiles(),
+                 QStringList({"pictures/ Feest é.jpg", "program/Ontwerpen/ Feest é.bmp"}));
+        comparePictures(*LoadPicture(designPath(folders_, " Feest é")), design_);
         const QByteArray bytes = contentOf(designPath(folders_, " Feest é"));
         QCOMPARE(bytes.left(2), QByteArray("BM"));
         QCOMPARE(bytes.size(), 54 + 640 * 440 * 3);
@@ -89,10 +92,10 @@ private slots:
 
     void RefusedNameWritesNothingAndIsNotNoticed_data() {
         QTest::addColumn<QString>("name");
-        QTest::newRow("slash") << QStringLiteral("a/b");
-        QTest::newRow("way out") << QStringLiteral("../../weg");
-        QTest::newRow("back slash") << QStringLiteral("..\\weg");
-        QTest::newRow("zero") << QString(QChar(0)) + QStringLiteral("x");
+        QTest::newRow("slash") << "a/b";
+        QTest::newRow("way out") << "../../weg";
+        QTest::newRow("back slash") << "..\\weg";
+        QTest::newRow("zero") << QString(QChar(0)) + 'x';
         QTest::newRow("too long") << QString(300, QLatin1Char('x'));
     }
     void RefusedNameWritesNothingAndIsNotNoticed() {
@@ -106,9 +109,8 @@ private slots:
     void OnlyTheScratchFileTellsOfAFolderThatCannotBeWritten() {
         touch(folders_.program + "/Ontwerpen");
         QVERIFY(saveDesign(folders_, "Feest", design_));
-        QCOMPARE(allFiles(), QStringList({QStringLiteral("pictures/Feest.jpg"),
-                                          QStringLiteral("program/Ontwerpen")}));
-        folders_.program += QStringLiteral("/nergens");
+        QCOMPARE(allFiles(), QStringList({"pictures/Feest.jpg", "program/Ontwerpen"}));
+        folders_.program += "/nergens";
         QVERIFY(!saveDesign(folders_, "Feest", design_));
     }
 
@@ -116,7 +118,7 @@ private slots:
         for (const QString& pictures : {QString(), root_.filePath("weg")}) {
             folders_.pictures = pictures;
             QVERIFY(saveDesign(folders_, "Feest", design_));
-            QCOMPARE(allFiles(), QStringList(QStringLiteral("program/Ontwerpen/Feest.bmp")));
+            QCOMPARE(allFiles(), QStringList("program/Ontwerpen/Feest.bmp"));
         }
     }
 
@@ -126,10 +128,7 @@ private slots:
         const QByteArray before = contentOf(designPath(folders_, "Feest"));
         const QByteArray copyBefore = contentOf(jpegCopyPath(folders_, "Feest"));
         design_.fill(Qt::red);
-        {
-            const FullDisk full(1000);
-            QVERIFY(!saveDesign(folders_, "Feest", design_));
-        }
+        QVERIFY(!saveOnFullDisk());
         QCOMPARE(allFiles(), files);
         QVERIFY(contentOf(designPath(folders_, "Feest")) == before);
         QVERIFY(contentOf(jpegCopyPath(folders_, "Feest")) == copyBefore);
@@ -137,10 +136,7 @@ private slots:
 
     void StaleScratchFileDoesNotPassForASave() {
         touch(folders_.program + "/mydummy.bmp");
-        {
-            const FullDisk full(1000);
-            QVERIFY(!saveDesign(folders_, "Feest", design_));
-        }
+        QVERIFY(!saveOnFullDisk());
         // A folder of that name is no scratch file either.
         QVERIFY(QDir(folders_.program).mkpath("mydummy.bmp/vol"));
         QVERIFY(!saveDesign(folders_, "Feest", design_));
@@ -150,26 +146,10 @@ private slots:
         QCOMPARE(designFileNames(folders_), QStringList());
         QVERIFY(QDir(folders_.program).mkpath("Ontwerpen/map.bmp"));
         for (const char* name : {"Zon.bmp", "appel.BMP", "Boom.bmp", ".punt.bmp", "foto.jpg"}) {
-            touch(folders_.program + QStringLiteral("/Ontwerpen/") + QLatin1String(name));
+            touch(folders_.program + "/Ontwerpen/" + QLatin1String(name));
         }
         QCOMPARE(designFileNames(folders_).join(QLatin1Char(' ')),
-                 QStringLiteral(".punt.bmp appel.BMP Boom.bmp Zon.bmp"));
-    }
-
-    void SizeAloneMakesADesign_data() {
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<QString>("orientation");
-        QTest::newRow("lying") << QSize(640, 440) << QStringLiteral("Liggend");
-        QTest::newRow("upright") << QSize(440, 640) << QStringLiteral("Staand");
-        QTest::newRow("strip") << QSize(1000, 80) << QStringLiteral("Liggend");
-        QTest::newRow("square") << QSize(540, 540) << QStringLiteral("Staand");
-        QTest::newRow("too high") << QSize(640, 441) << QString();
-        QTest::newRow("half") << QSize(320, 220) << QString();
-    }
-    void SizeAloneMakesADesign() {
-        QFETCH(QSize, size);
-        QFETCH(QString, orientation);
-        QCOMPARE(designOrientation(size).value_or(QString()), orientation);
+                 ".punt.bmp appel.BMP Boom.bmp Zon.bmp");
     }
 };
 

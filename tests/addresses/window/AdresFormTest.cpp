@@ -1,25 +1,12 @@
 #include "addresses/window/AdresForm.h"
 #include "controls/Printers.h"
-#include "design/session/Design.h"
-#include "tests/support/Answer.h"
-#include "tests/support/Test.h"
-
-#include <QAbstractButton>
-#include <QFile>
-#include <QLabel>
-#include <QLineEdit>
-#include <QScrollBar>
-#include <QTemporaryDir>
-#include <QTreeView>
+#include "tests/support/FormTest.h"
 
 using namespace kaart;
 
-class AdresFormTest : public QObject {
+class AdresFormTest : public FormTest<AdresForm> {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> root_;
-    std::unique_ptr<Design> design_;
-    std::unique_ptr<AdresForm> form_;
     QString flashed_;
 
     /// Notes which field turns green; the window goes at the third.
@@ -36,93 +23,81 @@ class AdresFormTest : public QObject {
         return false;
     }
 
-    QString path() const { return root_->filePath("Data/Adressen.col"); }
-    template <typename T>
-    T* part(const QString& name) const {
-        return form_->findChild<T*>(name);
-    }
-    QLineEdit* input(int field) const {
-        return part<QLineEdit>(QStringLiteral("Text1(%1)").arg(field));
-    }
-    QString position() const { return part<QLabel>("Label7")->text(); }
-    void press(const QString& button) { part<QAbstractButton>(button)->click(); }
+    QString file() const { return path("Data/Adressen.col"); }
+    QLineEdit& input(int field) const { return part<QLineEdit>("Text1", field); }
+    QString position() const { return text("Label7"); }
+    QScrollBar& bar() const { return part<QScrollBar>("HScroll1"); }
     void type(const QStringList& fields) {
         for (int field = 0; field < addressFields; ++field) {
-            input(field)->setText(fields.value(field));
+            input(field).setText(fields.value(field));
         }
     }
     QString shown() const {
         QString text;
         for (int field = 0; field < addressFields; ++field) {
-            text += input(field)->text() + '/';
+            text += input(field).text() + '/';
         }
         return text;
     }
     /// The first fields in the hidden list.
     QString names() const {
         QString text;
-        const auto* store = part<QTreeView>("ListView1")->model();
+        const auto* store = part<QTreeView>("ListView1").model();
         for (int row = 0; row < store->rowCount(); ++row) {
             text += store->index(row, 0).data().toString();
         }
         return text;
     }
-    void open(const QString& letters) {
+    void openWith(const QString& letters) {
         Addresses addresses;
         for (const QChar letter : letters) {
             addresses << QStringList{letter, "s", "p", "w", "t", "e", "l", "o"};
         }
-        writeAddresses(path(), addresses);
-        form_ = std::make_unique<AdresForm>(*design_);
+        writeAddresses(file(), addresses);
+        open();
         form_->flashPause = 0;
-        form_->show();
     }
 
 private slots:
-    void init() {
-        root_ = std::make_unique<QTemporaryDir>();
-        design_ = std::make_unique<Design>(ProgramFolders{root_->path(), root_->path()});
-    }
-    void cleanup() { form_.reset(); }
+    void init() { begin(); }
 
     void ScrollBarStepsThroughTheAddresses() {
-        open("ABC");
-        auto* bar = part<QScrollBar>("HScroll1");
+        openWith("ABC");
         QCOMPARE(position() + shown(), QString("1 / 3A/s/p/w/t/e/l/o/"));
-        QCOMPARE(bar->minimum() * 10 + bar->maximum(), 13);
-        QTest::keyClick(bar, Qt::Key_End);
+        QCOMPARE(bar().minimum() * 10 + bar().maximum(), 13);
+        QTest::keyClick(&bar(), Qt::Key_End);
         QCOMPARE(position() + shown(), QString("3 / 3C/s/p/w/t/e/l/o/"));
     }
 
     void AddingAsksForFourFields() {
-        open("A");
+        openWith("A");
         const QStringList names{"Voor en Achternaam", "Adres", "Postcode", "Plaatsnaam"};
         for (int field = 0; field < requiredForAdding; ++field) {
             type(QStringList{"N", "s", "p"}.mid(0, field) << "  ");
             Answer answer;
             press("Knop(0)");
             QCOMPARE(answer.seen(), QStringList('|' + names[field] + " invullen a.u.b."));
-            QCOMPARE(form_->focusWidget(), input(field));
+            QCOMPARE(form_->focusWidget(), &input(field));
         }
         QCOMPARE(position(), QString("1 / 1"));
     }
 
     void AddedAddressGoesToTheEndAndIntoTheFile() {
-        open("AB");
+        openWith("AB");
         type({" N ", "s", "p", "w", "", " ", "", ""});
         press("Knop(0)");
         QCOMPARE(names() + position() + shown(), QString("AB N 3 / 3////////"));
-        QCOMPARE(part<QScrollBar>("HScroll1")->value(), 1);
-        part<QScrollBar>("HScroll1")->setValue(3);
+        QCOMPARE(bar().value(), 1);
+        bar().setValue(3);
         QCOMPARE(shown(), QString(" N /s/p/w/-/-/-/-/"));
-        QCOMPARE(readAddresses(path()).size(), 2);
+        QCOMPARE(readAddresses(file()).size(), 2);
         press("SaveKnop");
         QVERIFY(!form_->isVisible());
-        QCOMPARE(readAddresses(path()).value(2).join('/'), QString("N/s/p/w/-/-/-/-"));
+        QCOMPARE(readAddresses(file()).value(2).join('/'), QString("N/s/p/w/-/-/-/-"));
     }
 
     void ChangingAfterAddingComplainsAndThenNeedsOnlyAName() {
-        open("AB");
+        openWith("AB");
         type({"C", "s", "p", "w"});
         press("Knop(0)");
         Answer answer;
@@ -132,41 +107,40 @@ private slots:
         press("Knop(1)");
         QCOMPARE(names() + shown(), QString("ABDD/-/-/-/-/-/-/-/"));
         press("CancelKnop");
-        QCOMPARE(readAddresses(path()).size(), 2);
+        QCOMPARE(readAddresses(file()).size(), 2);
     }
 
     void DeletingAsksAndShowsTheFirst() {
-        open("ABC");
-        auto* bar = part<QScrollBar>("HScroll1");
-        bar->setValue(3);
+        openWith("ABC");
+        bar().setValue(3);
         Answer answer;
         answer.press(QMessageBox::No).press(QMessageBox::Yes).press(QMessageBox::Yes);
         press("Knop(2)");
         QCOMPARE(answer.seen(), QStringList(" Delete|Wilt je (C) verwijderen uit de lijst?"));
-        QCOMPARE(names() + position() + input(0)->text(), QString("ABC3 / 3C"));
+        QCOMPARE(names() + position() + input(0).text(), QString("ABC3 / 3C"));
         press("Knop(2)");
-        QCOMPARE(names() + position() + input(0)->text(), QString("AB1 / 2A"));
-        QCOMPARE(bar->value() * 10 + bar->maximum(), 12);
+        QCOMPARE(names() + position() + input(0).text(), QString("AB1 / 2A"));
+        QCOMPARE(bar().value() * 10 + bar().maximum(), 12);
         press("Knop(2)");
-        QCOMPARE(names() + position() + input(0)->text(), QString("B1 / 1B"));
+        QCOMPARE(names() + position() + input(0).text(), QString("B1 / 1B"));
     }
 
     void DeletingRightAfterAddingLeavesAnAddressOnView() {
-        open("A");
+        openWith("A");
         type({"B", "s", "p", "w"});
         Answer answer;
         answer.press(QMessageBox::Yes);
         press("Knop(0)");
         press("Knop(2)");
-        QCOMPARE(names() + position() + input(0)->text(), QString("A1 / 1A"));
+        QCOMPARE(names() + position() + input(0).text(), QString("A1 / 1A"));
         press("Knop(1)");
         QCOMPARE(names(), QString("A"));
     }
 
     void EmptyListHasNothingToChangeDeleteOrPrint() {
-        open("");
+        openWith("");
         QCOMPARE(position(), QString("1 / 0")); // kept
-        open("A");
+        openWith("A");
         Answer answer;
         answer.press(QMessageBox::Yes);
         for (const char* button : {"Knop(2)", "Knop(1)", "Knop(2)", "Knop(3)"}) {
@@ -177,22 +151,22 @@ private slots:
     }
 
     void FieldsFlashOneByOneUntilTheWindowGoes() {
-        open("A");
+        openWith("A");
         for (int field = 0; field < addressFields; ++field) {
-            input(field)->installEventFilter(this);
+            input(field).installEventFilter(this);
         }
-        press("Knop(1)");
+        part<QAbstractButton>("Knop(1)").click();
         QCOMPARE(flashed_, QString("(0)(1)(2)"));
         QVERIFY(!form_);
     }
 
     void PrintGoesToTheChosenFile() {
-        open("ABC");
+        openWith("ABC");
         pickPrinter(findPrinters().DeviceNames.last());
         Answer answer;
-        answer.choose(root_->filePath("lijst.pdf")).choose(root_->filePath("nergens/x.pdf"));
+        answer.choose(path("lijst.pdf")).choose(path("nergens/x.pdf"));
         press("Knop(3)");
-        QVERIFY(QFile::exists(root_->filePath("lijst.pdf")));
+        QVERIFY(QFile::exists(path("lijst.pdf")));
         press("Knop(3)");
         QCOMPARE(answer.seen(),
                  QStringList({"Afdrukken naar PDF", "Afdrukken naar PDF",

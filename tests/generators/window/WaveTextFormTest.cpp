@@ -1,66 +1,44 @@
 #include "generators/window/WaveTextForm.h"
-
-#include "controls/ControlTable.h"
 #include "controls/Fader.h"
-#include "controls/SurfaceView.h"
-#include "controls/VistaButton.h"
-#include "design/session/Design.h"
 #include "generators/CurvedText.h"
 #include "generators/TextColours.h"
-#include "tests/support/Answer.h"
-#include "tests/support/Drag.h"
-#include "tests/support/Pictures.h"
-#include "tests/support/Test.h"
-
-#include <QAction>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QMenu>
+#include "tests/support/FormTest.h"
 
 using namespace kaart;
 
-class WaveTextFormTest : public QObject {
+class WaveTextFormTest : public FormTest<WaveTextForm> {
     Q_OBJECT
-
-    std::unique_ptr<Design> design_;
-    std::unique_ptr<WaveTextForm> form_;
 
     void slide(std::initializer_list<std::pair<const char*, int>> sliders) {
         for (const auto& [name, value] : sliders) {
-            control<Fader>(*form_, name).setValue(value);
+            part<Fader>(name).setValue(value);
         }
     }
-    QImage shown() { return control<SurfaceView>(*form_, "Pic").Image(); }
-    void press(const char* name) {
-        QTest::mouseClick(&control<VistaButton>(*form_, name), Qt::LeftButton);
-    }
+    QImage shown() const { return image("Pic"); }
     /// Picks an entry of KleurenPalet as a user does.
     void pickColour(int index) {
         press("KleurKnop");
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         QVERIFY(menu != nullptr);
-        menu->setActiveAction(&control<QAction>(*form_, "Kleurtje", index));
+        menu->setActiveAction(&part<QAction>("Kleurtje", index));
         QTest::keyClick(menu, Qt::Key_Return);
     }
 
 private slots:
     void init() {
-        design_ = std::make_unique<Design>(ProgramFolders{});
-        form_ = std::make_unique<WaveTextForm>(*design_);
-        form_->show();
+        begin();
+        open();
     }
-    void cleanup() { form_.reset(); }
 
     void TheSliderMovedLastChoosesTheCurve() {
         PixelSurface expected(685, 340);
         expected.FontSize = 40;
         expected.FontBold = true;
-        control<QComboBox>(*form_, "Combo2").setCurrentText("40");
-        control<QCheckBox>(*form_, "BoldCheck").click();
+        part<QComboBox>("Combo2").setCurrentText("40");
+        part<QCheckBox>("BoldCheck").click();
         const QString text = "Hoera voor Jo";
-        control<QLineEdit>(*form_, "Text1").setText(text);
-        comparePictures(shown(), PixelSurface(685, 340).Image());
+        part<QLineEdit>("Text1").setText(text);
+        comparePictures(shown(), plain(685, 340, white));
         slide({{"HScroll3", 180}, {"HScroll7", 90}, {"HScroll2", 120}});
         CircleText(expected, 342, 150, 120, 90, 180, text);
         comparePictures(shown(), expected.Image());
@@ -87,7 +65,7 @@ private slots:
         }
         pickColour(3);
         comparePictures(shown(), expected.Image());
-        auto& pic = control<QWidget>(*form_, "Pic");
+        auto& pic = part("Pic");
         design_->setTekenModus(7);
         QTest::mouseClick(&pic, Qt::LeftButton);
         Answer answer;
@@ -96,7 +74,7 @@ private slots:
                  QStringList("Golvend en circel tekst|Selecteer met ingedrukte linkermuisknop een "
                              "rechthoek\nom de tekst dat je wilt copyeren, of klik op Annuleren."));
         drag(pic, {200, 100}, {150, 20}); // upwards: one pixel only
-        QCOMPARE(control<QWidget>(*form_, "SelectShape").geometry(), QRect(200, 100, 1, 1));
+        QCOMPARE(part("SelectShape").geometry(), QRect(200, 100, 1, 1));
         drag(pic, {150, 100}, {699, 299});
         press("ExportKnop");
         QVERIFY(!form_->isVisible() && design_->ClipPic.Visible);
@@ -111,11 +89,11 @@ private slots:
         slide({{"HScroll1", 30}});
         const QImage plain = shown();
         QTimer::singleShot(0, this, [&] { form_->close(); });
-        control<QAction>(*form_, "Kleurtje", 1).trigger();
+        part<QAction>("Kleurtje", 1).trigger();
         comparePictures(shown(), plain); // the first rows hold no text
         form_->show();
         QTimer::singleShot(0, this, [&] { form_.reset(); });
-        control<QAction>(*form_, "Kleurtje", 1).trigger();
+        part<QAction>("Kleurtje", 1).trigger();
         QVERIFY(!form_ && QGuiApplication::overrideCursor() == nullptr);
     }
 };

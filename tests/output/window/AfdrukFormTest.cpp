@@ -1,112 +1,82 @@
 #include "output/window/AfdrukForm.h"
-#include "design/session/Design.h"
-#include "tests/support/Answer.h"
+#include "tests/support/FormTest.h"
 #include "tests/support/PdfFile.h"
-#include "tests/support/Test.h"
-
-#include <QAbstractButton>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDate>
-#include <QFile>
-#include <QLineEdit>
-#include <QRadioButton>
-#include <QTemporaryDir>
 
 using namespace kaart;
 
-class AfdrukFormTest : public QObject {
+class AfdrukFormTest : public FormTest<AfdrukForm> {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> root_;
-    std::unique_ptr<Design> design_;
-    std::unique_ptr<AfdrukForm> form_;
-    QString pdf_;
-
-    QWidget* part(const char* part) const {
-        return form_->findChild<QWidget*>(QString::fromUtf8(part));
-    }
-    QComboBox* combo(const char* name) const {
-        return form_->findChild<QComboBox*>(QString::fromUtf8(name));
-    }
+    QComboBox& combo(const char* name) const { return part<QComboBox>(name); }
     void type(const char* name, const QString& text) {
-        combo(name)->lineEdit()->selectAll();
-        QTest::keyClicks(combo(name)->lineEdit(), text);
+        combo(name).lineEdit()->selectAll();
+        QTest::keyClicks(combo(name).lineEdit(), text);
     }
     void pick(int option) {
-        auto* button = form_->findChild<QRadioButton*>(QStringLiteral("Option1(%1)").arg(option));
-        QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(10, button->height() / 2));
-        QVERIFY(button->isChecked());
+        auto& button = part<QRadioButton>("Option1", option);
+        QTest::mouseClick(&button, Qt::LeftButton, {}, QPoint(10, button.height() / 2));
+        QVERIFY(button.isChecked());
     }
-    void press(const char* button) { QTest::mouseClick(part(button), Qt::LeftButton); }
     void reopen() {
-        form_ = std::make_unique<AfdrukForm>(*design_);
-        form_->show();
-        combo("Combo2")->setCurrentIndex(combo("Combo2")->count() - 1);
+        open();
+        combo("Combo2").setCurrentIndex(combo("Combo2").count() - 1);
     }
 
 private slots:
     void init() {
-        root_ = std::make_unique<QTemporaryDir>();
-        pdf_ = root_->filePath("kaart.pdf");
-        design_ = std::make_unique<Design>(ProgramFolders{root_->path(), root_->path()});
+        begin();
         design_->MargeLinks = -3;
         design_->MargeBoven = 2.5;
         design_->MargeOnder = 7;
         reopen();
     }
-    void cleanup() { form_.reset(); }
 
     void PdfPrinterIsAlwaysThere() {
-        QVERIFY(combo("Combo2")->currentText().contains("PDF"));
-        QCOMPARE(form_->windowTitle(),
-                 QStringLiteral("Afdrukken (%1)").arg(combo("Combo2")->currentText()));
+        QVERIFY(combo("Combo2").currentText().contains("PDF"));
+        QCOMPARE(form_->windowTitle(), "Afdrukken (" + combo("Combo2").currentText() + ')');
     }
 
     void StoredMarginsAndTheYearAreShown() {
-        QCOMPARE(combo("LMcombo")->currentText(), QStringLiteral("-3"));
-        QCOMPARE(combo("TMcombo")->currentText(), QStringLiteral("2.5"));
-        QCOMPARE(combo("RMcombo")->currentText(), QStringLiteral("0"));
-        QCOMPARE(combo("BMcombo")->currentText(), QStringLiteral("7"));
-        QCOMPARE(combo("LMcombo")->itemText(0) + combo("RMcombo")->itemText(0),
-                 QStringLiteral("-990"));
-        QCOMPARE(combo("BMcombo")->itemText(99), QStringLiteral("99"));
-        QCOMPARE(combo("Combo3")->currentText(), QString::number(QDate::currentDate().year()));
-        QCOMPARE(combo("Combo3")->count(), 6);
-        QCOMPARE(combo("Combo1")->currentText(), QStringLiteral("1"));
-        QCOMPARE(combo("Combo1")->count(), 20);
+        const auto shown = [this](const char* name) {
+            const QComboBox& box = combo(name);
+            return box.currentText() + " of " + box.itemText(0) + " to " +
+                   box.itemText(box.count() - 1);
+        };
+        QCOMPARE(shown("LMcombo"), "-3 of -99 to 99");
+        QCOMPARE(shown("TMcombo"), "2.5 of -99 to 99");
+        QCOMPARE(shown("RMcombo"), "0 of 0 to 99");
+        QCOMPARE(shown("BMcombo"), "7 of 0 to 99");
+        QCOMPARE(shown("Combo1"), "1 of 1 to 20");
+        const QString thisYear = QString::number(QDate::currentDate().year());
+        QCOMPARE(shown("Combo3"), thisYear + " of 2015 to 2020");
     }
 
     void OptionsEnableWhatBelongsToThem_data() {
         QTest::addColumn<int>("option");
-        QTest::addColumn<bool>("margins");
-        QTest::addColumn<bool>("year");
         QTest::addColumn<QSize>("upright");
-        QTest::newRow("A4") << 0 << true << false << QSize(110, 160);
-        QTest::newRow("card") << 1 << false << false << QSize(160, 110);
-        QTest::newRow("postcards") << 2 << false << false << QSize(110, 160);
-        QTest::newRow("calendar") << 3 << false << true << QSize(160, 110);
+        QTest::newRow("A4") << 0 << QSize(110, 160);
+        QTest::newRow("card") << 1 << QSize(160, 110);
+        QTest::newRow("postcards") << 2 << QSize(110, 160);
+        QTest::newRow("calendar") << 3 << QSize(160, 110);
     }
     void OptionsEnableWhatBelongsToThem() {
         QFETCH(int, option);
-        QFETCH(bool, margins);
-        QFETCH(bool, year);
         QFETCH(QSize, upright);
         pick((option + 1) % 4);
         pick(option);
         for (const char* name : {"LMcombo", "TMcombo", "RMcombo", "BMcombo", "Label9", "Check1"}) {
-            QCOMPARE(part(name)->isEnabled(), margins);
+            QCOMPARE(part(name).isEnabled(), option == 0);
         }
-        QVERIFY(part("Combo1")->isEnabled() && part("Label5")->isEnabled());
-        QCOMPARE(part("Combo3")->isVisible(), year);
-        QVERIFY(part("PrintKnop")->isEnabled());
-        QCOMPARE(part("Picture1")->size(), upright);
-        QVERIFY(part("Label2")->geometry().contains(part("Picture1")->geometry()));
+        QVERIFY(part("Combo1").isEnabled() && part("Label5").isEnabled());
+        QCOMPARE(part("Combo3").isVisible(), option == 3);
+        QVERIFY(part("PrintKnop").isEnabled());
+        QCOMPARE(part("Picture1").size(), upright);
+        QVERIFY(part("Label2").geometry().contains(part("Picture1").geometry()));
         design_->ZetRichting(2);
         reopen();
         pick((option + 1) % 4);
         pick(option);
-        QCOMPARE(part("Picture1")->size(), upright.transposed());
+        QCOMPARE(part("Picture1").size(), upright.transposed());
     }
 
     void LeftMarginIsStoredAtOnceTheOthersWhenPrinting() {
@@ -135,16 +105,13 @@ private slots:
         QTest::addColumn<QString>("copies");
         QTest::addColumn<QString>("picture"); // of each page
         QTest::addColumn<int>("pictures");
-        QTest::newRow("A4") << 0 << false << "1"
-                            << "440x640" << 1;
+        const char* const own = " 440x640 ";
+        QTest::newRow("A4") << 0 << false << "1" << own << 1;
         QTest::newRow("A4 smoothed") << 0 << true << "1"
-                                     << "880x1280" << 1;
-        QTest::newRow("two cards, not smoothed") << 1 << true << "2"
-                                                 << "440x640" << 2;
-        QTest::newRow("postcards") << 2 << false << "1"
-                                   << "440x640" << 4;
-        QTest::newRow("two calendars") << 3 << false << "2"
-                                       << "440x640" << 2;
+                                     << " 880x1280 " << 1;
+        QTest::newRow("two cards, not smoothed") << 1 << true << "2" << own << 2;
+        QTest::newRow("postcards") << 2 << false << "1" << own << 4;
+        QTest::newRow("two calendars") << 3 << false << "2" << own << 2;
     }
     void PrintGoesToTheChosenFile() {
         QFETCH(int, option);
@@ -152,25 +119,24 @@ private slots:
         QFETCH(QString, copies);
         QFETCH(QString, picture);
         QFETCH(int, pictures);
-        form_->findChild<QCheckBox*>("Check1")->setChecked(smooth);
+        part<QCheckBox>("Check1").setChecked(smooth);
         type("Combo1", copies);
         pick(option);
         if (option == 3) {
             type("Combo3", " 2019,2");
         }
         Answer answer;
-        answer.choose(root_->filePath("kaart"));
+        answer.choose(path("kaart"));
         QTest::keyClick(form_.get(), Qt::Key_Return);
-        QCOMPARE(answer.seen(), QStringList(QStringLiteral("Afdrukken naar PDF")));
+        QCOMPARE(answer.seen(), QStringList("Afdrukken naar PDF"));
         QVERIFY(!form_->isVisible());
         if (!PdfFile::canBeRead()) {
             QSKIP("poppler-utils is missing: the PDF file was not looked at");
         }
-        const QStringList printed = PdfFile(pdf_).pictures();
-        QCOMPARE(printed.filter(' ' + picture + ' ').size(), pictures);
-        QCOMPARE(printed.size(), pictures);
-        const auto words = PdfFile(pdf_).words(1);
-        QCOMPARE(words.isEmpty() ? QString() : words[0].text, option == 3 ? "2019" : "");
+        const PdfFile pdf(path("kaart.pdf"));
+        QCOMPARE(pdf.pictures().filter(picture).size(), pictures);
+        QCOMPARE(pdf.pictures().size(), pictures);
+        QCOMPARE(pdf.words(1).value(0).text, option == 3 ? "2019" : "");
     }
 
     void CancelledFileDialogPrintsNothing() {
@@ -178,15 +144,14 @@ private slots:
         answer.cancel();
         press("PrintKnop");
         QCOMPARE(answer.seen().size(), 1);
-        QVERIFY(form_->isVisible() && part("PrintKnop")->isEnabled());
+        QVERIFY(form_->isVisible() && part("PrintKnop").isEnabled());
     }
 
     void UnwritablePdfIsReported() {
         Answer answer;
-        answer.choose(root_->filePath("nergens/kaart.pdf"));
+        answer.choose(path("nergens/kaart.pdf"));
         press("PrintKnop");
-        QCOMPARE(answer.seen().value(1),
-                 QStringLiteral("Afdrukken|Het PDF-bestand kon niet worden geschreven."));
+        QCOMPARE(answer.seen().value(1), "Afdrukken|Het PDF-bestand kon niet worden geschreven.");
         QVERIFY(!form_->isVisible());
     }
 
@@ -197,19 +162,19 @@ private slots:
     }
     void ClosingWhileThePictureIsSmoothedPrintsNothing() {
         QFETCH(bool, destroyed);
-        form_->findChild<QCheckBox*>("Check1")->setChecked(true);
+        part<QCheckBox>("Check1").setChecked(true);
         Answer answer;
-        answer.choose(pdf_);
+        answer.choose(path("kaart.pdf"));
         QTimer watch;
         connect(&watch, &QTimer::timeout, this, [&] {
-            if (form_ && !part("PrintKnop")->isEnabled()) {
+            if (form_ && !part("PrintKnop").isEnabled()) {
                 destroyed ? form_.reset() : static_cast<void>(form_->close());
             }
         });
         watch.start(0);
-        form_->findChild<QAbstractButton*>("PrintKnop")->click();
+        part<QAbstractButton>("PrintKnop").click();
         QVERIFY(!form_ || !form_->isVisible());
-        QVERIFY(!QFile::exists(pdf_));
+        QVERIFY(!QFile::exists(path("kaart.pdf")));
     }
 };
 

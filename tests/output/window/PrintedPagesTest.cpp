@@ -13,38 +13,12 @@ using namespace kaart;
 namespace {
 
 constexpr int dotsPerInch = 288; // a quarter of a point each
-constexpr double twipsPerDot = 1440.0 / dotsPerInch;
+constexpr int twipsPerDot = 1440 / dotsPerInch;
 constexpr int near = 2; // dots: half a point
-
-QRectF dotsOf(const QRect& twips) {
-    return {QPointF(twips.topLeft()) / twipsPerDot, QSizeF(twips.size()) / twipsPerDot};
-}
 
 bool isGrey(QRgb pixel) {
     return std::abs(qRed(pixel) - qGreen(pixel)) < 8 && std::abs(qGreen(pixel) - qBlue(pixel)) < 8;
 }
-
-/// The first dot beyond half a point inside and outside each edge: left, top, right, bottom.
-struct Edges {
-    explicit Edges(const QRectF& dots)
-        : inner(QPoint(qCeil(dots.left()) + near, qCeil(dots.top()) + near),
-                QPoint(qFloor(dots.right()) - near - 1, qFloor(dots.bottom()) - near - 1)),
-          outer(QPoint(qFloor(dots.left()) - near - 1, qFloor(dots.top()) - near - 1),
-                QPoint(qCeil(dots.right()) + near, qCeil(dots.bottom()) + near)) {}
-    QRect inner;
-    QRect outer;
-
-    QList<QPoint> corners() const {
-        return {inner.topLeft(), inner.topRight(), inner.bottomLeft(), inner.bottomRight()};
-    }
-    QList<QPoint> outside() const {
-        const QPoint middle = outer.center();
-        return {{outer.left(), middle.y()},
-                {outer.right(), middle.y()},
-                {middle.x(), outer.top()},
-                {middle.x(), outer.bottom()}};
-    }
-};
 
 QByteArray at(const char* what, const QPoint& dot) {
     return QStringLiteral("%1 at dot (%2, %3)").arg(what).arg(dot.x()).arg(dot.y()).toUtf8();
@@ -81,12 +55,20 @@ private slots:
         QCOMPARE(file.pictures().filter("2" + size).size(), job.pictures.size());
         const QImage page = file.rendered(2, dotsPerInch);
         for (const QRect& place : job.pictures) {
-            const Edges edges(dotsOf(place));
+            const QRect dots(place.topLeft() / twipsPerDot, place.size() / twipsPerDot);
+            const QRect inner = dots.adjusted(near, near, -near, -near);
+            const QPoint corners[] = {inner.topLeft(), inner.topRight(), inner.bottomLeft(),
+                                      inner.bottomRight()};
             for (int corner = 0; corner < 4; ++corner) {
-                const QPoint dot = edges.corners()[corner];
+                const QPoint dot = corners[corner];
                 QVERIFY2(page.pixel(dot) == quarters[corner], at("wrong quarter", dot));
             }
-            for (const QPoint& dot : edges.outside()) {
+            const QRect outer = dots.adjusted(-near - 1, -near - 1, near + 1, near + 1);
+            const QPoint middle = outer.center();
+            for (const QPoint dot : {QPoint(outer.left(), middle.y()),
+                                     {outer.right(), middle.y()},
+                                     {middle.x(), outer.top()},
+                                     {middle.x(), outer.bottom()}}) {
                 QVERIFY2(isGrey(page.pixel(dot)), at("picture too wide", dot));
             }
         }

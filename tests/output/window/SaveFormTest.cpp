@@ -1,53 +1,33 @@
 #include "output/window/SaveForm.h"
-#include "design/session/Design.h"
-#include "design/surface/PictureGate.h"
-#include "tests/support/Answer.h"
-#include "tests/support/Pictures.h"
-#include "tests/support/Test.h"
-
-#include <QAbstractButton>
-#include <QDir>
-#include <QFile>
-#include <QLabel>
-#include <QLineEdit>
-#include <QTemporaryDir>
+#include "tests/support/FormTest.h"
 
 using namespace kaart;
 
-class SaveFormTest : public QObject {
+class SaveFormTest : public FormTest<SaveForm> {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> root_;
-    std::unique_ptr<Design> design_;
-    std::unique_ptr<SaveForm> form_;
     QStringList hints_;
 
-    QLineEdit* name() const { return form_->findChild<QLineEdit*>("Text1"); }
-    QWidget* part(const char* part) const {
-        return form_->findChild<QWidget*>(QString::fromUtf8(part));
-    }
+    QLineEdit& name() const { return part<QLineEdit>("Text1"); }
     void saveAs(const QString& text) {
-        name()->setText(text);
-        QTest::mouseClick(part("SaveKnop"), Qt::LeftButton);
+        name().setText(text);
+        press("SaveKnop");
     }
-    QString bmp(const QString& text) const {
-        return root_->filePath(QStringLiteral("Ontwerpen/%1.bmp").arg(text));
-    }
+    QString bmp(const QString& text) const { return path("Ontwerpen/" + text + ".bmp"); }
+    QImage saved(const QString& text) const { return LoadPicture(bmp(text)).value_or(QImage()); }
     void reopen() {
-        form_ = std::make_unique<SaveForm>(*design_);
+        open();
         form_->progressPause = 0;
         form_->closingPause = 0;
-        form_->show();
     }
 
 private slots:
     void init() {
-        root_ = std::make_unique<QTemporaryDir>();
+        begin();
         QVERIFY(QDir(root_->path()).mkdir("Pictures"));
-        design_ =
-            std::make_unique<Design>(ProgramFolders{root_->path(), root_->filePath("Pictures")});
+        design_ = std::make_unique<Design>(ProgramFolders{root_->path(), path("Pictures")});
         design_->change([](PixelSurface& pic) { pic.Line(9, 9, 99, 99, RGB(250, 0, 0)); });
-        design_->OntwerpNaam = QStringLiteral("Vorige");
+        design_->OntwerpNaam = "Vorige";
         hints_.clear();
         connect(design_.get(), &Design::hintChanged, this,
                 [this](const QString& hint, ColorRef colour) {
@@ -55,54 +35,50 @@ private slots:
                 });
         reopen();
     }
-    void cleanup() { form_.reset(); }
 
     void SaveWritesTheDesignAndCloses() {
         saveAs(" Feest");
         QVERIFY(!form_->isVisible());
         QCOMPARE(form_->result(), int(QDialog::Accepted));
-        comparePictures(LoadPicture(bmp(" Feest")).value_or(QImage()), design_->Pic().Image());
-        QCOMPARE(design_->OntwerpPad, root_->filePath("Pictures/ Feest.jpg"));
+        comparePictures(saved(" Feest"), design_->Pic().Image());
+        QCOMPARE(design_->OntwerpPad, path("Pictures/ Feest.jpg"));
         QVERIFY(QFile::exists(design_->OntwerpPad));
         QVERIFY(!design_->Gewijzigd);
-        QCOMPARE(design_->OntwerpNaam, QStringLiteral("Vorige")); // kept: only opening names it
-        QCOMPARE(hints_, QStringList(QStringLiteral("Informatie...1")));
+        QCOMPARE(design_->OntwerpNaam, "Vorige"); // kept: only opening names it
+        QCOMPARE(hints_, QStringList("Informatie...1"));
     }
 
     void ProgressRunsFromNothingToAll() {
         QStringList told;
         int widest = 0;
-        auto* label = form_->findChild<QLabel*>("Label1");
         QTimer watch;
         connect(&watch, &QTimer::timeout, this, [&] {
-            if (!part("Bar")->isVisible()) {
+            if (!part("Bar").isVisible()) {
                 return;
             }
-            QVERIFY(!name()->isVisible() && !part("SaveKnop")->isEnabled());
-            const QImage bar = part("Bar")->property("Image").value<QImage>();
+            QVERIFY(!name().isVisible() && !part("SaveKnop").isEnabled());
+            const QImage bar = image("Bar");
             int green = 0;
             while (green < bar.width() && bar.pixel(green, 10) == 0xFF00F000) {
                 ++green;
             }
             QVERIFY(green >= widest);
             widest = green;
-            if (told.isEmpty() || told.last() != label->text()) {
-                told << label->text();
-            }
+            told << text("Label1");
         });
         watch.start(0);
-        QCOMPARE(label->text(), QStringLiteral("0%"));
+        QCOMPARE(text("Label1"), "0%");
         saveAs("Feest");
-        QCOMPARE(told.first(), QStringLiteral("0%"));
-        QCOMPARE(told.last(), QStringLiteral("100%"));
+        QCOMPARE(told.first(), "0%");
+        QCOMPARE(told.last(), "100%");
         QVERIFY(told.contains("33%") && told.contains("67%"));
-        QCOMPARE(widest, part("Bar")->width());
+        QCOMPARE(widest, part("Bar").width());
     }
 
     void BlankNameDoesNothing() {
         saveAs("   ");
         QVERIFY(form_->isVisible());
-        QVERIFY(!QDir(root_->path()).exists("Ontwerpen"));
+        QVERIFY(!QFile::exists(path("Ontwerpen")));
     }
 
     void ExistingNameIsReplacedOnlyAfterYes() {
@@ -114,38 +90,34 @@ private slots:
         answer.press(QMessageBox::No).press(QMessageBox::Yes);
         saveAs("Feest");
         QVERIFY(form_->isVisible() && design_->Gewijzigd);
-        comparePictures(LoadPicture(bmp("Feest")).value_or(QImage()), before);
+        comparePictures(saved("Feest"), before);
         saveAs("Feest");
         QVERIFY(!form_->isVisible() && !design_->Gewijzigd);
-        comparePictures(LoadPicture(bmp("Feest")).value_or(QImage()), design_->Pic().Image());
-        const QString question = QStringLiteral(" Exist|Naam ontwerp bestaat al, overschrijven?");
-        QCOMPARE(answer.seen(), QStringList({question, question}));
+        comparePictures(saved("Feest"), design_->Pic().Image());
+        QCOMPARE(answer.seen(), QStringList(2, " Exist|Naam ontwerp bestaat al, overschrijven?"));
     }
 
     void FailedSaveSaysSoAndKeepsTheDesignChanged() {
         Answer answer;
-        QDir program(root_->path());
-        QVERIFY(program.mkpath(QStringLiteral("mydummy.bmp/vol")));
+        QVERIFY(QDir().mkpath(path("mydummy.bmp/vol")));
         saveAs("wel");
-        QCOMPARE(answer.seen(), QStringList(QStringLiteral("|Fout bij opslaan als JPG!")));
+        QCOMPARE(answer.seen(), QStringList("|Fout bij opslaan als JPG!"));
         QVERIFY(form_->isVisible() && design_->Gewijzigd);
-        QVERIFY(name()->isVisible() && part("SaveKnop")->isEnabled());
-        QVERIFY(QDir(program.filePath(QStringLiteral("mydummy.bmp"))).removeRecursively());
+        QVERIFY(name().isVisible() && part("SaveKnop").isEnabled());
+        QVERIFY(QDir(path("mydummy.bmp")).removeRecursively());
         answer.press(QMessageBox::Yes);
         saveAs("wel");
         QVERIFY(!design_->Gewijzigd);
     }
 
-    void ProposedNameGoesAtAClick() {
-        QCOMPARE(name()->text(), QStringLiteral("Vorige"));
-        QTest::mouseClick(name(), Qt::LeftButton);
-        QCOMPARE(name()->text(), QString());
-    }
-
-    void TypingAndEnterReplaceTheProposedName() {
-        QTest::keyClicks(name(), "Nieuw");
-        QTest::keyClick(name(), Qt::Key_Return);
+    void ProposedNameGoesAtAClickOrWhenOneIsTyped() {
+        QCOMPARE(name().text(), "Vorige");
+        QTest::keyClicks(&name(), "Nieuw");
+        QTest::keyClick(&name(), Qt::Key_Return);
         QVERIFY(QFile::exists(bmp("Nieuw")));
+        reopen();
+        QTest::mouseClick(&name(), Qt::LeftButton);
+        QCOMPARE(name().text(), "");
     }
 
     void EscapeLeavesEverythingAsItWas() {
@@ -163,13 +135,13 @@ private slots:
         QFETCH(bool, destroyed);
         QTimer watch;
         connect(&watch, &QTimer::timeout, this, [&] {
-            if (form_ && part("Bar")->isVisible()) {
+            if (form_ && part("Bar").isVisible()) {
                 destroyed ? form_.reset() : static_cast<void>(form_->close());
             }
         });
         watch.start(0);
-        name()->setText("Feest");
-        form_->findChild<QAbstractButton*>("SaveKnop")->click();
+        name().setText("Feest");
+        part<QAbstractButton>("SaveKnop").click();
         QVERIFY(!design_->Gewijzigd);
         QVERIFY(!form_ || !form_->isVisible());
         QVERIFY(QFile::exists(bmp("Feest")));

@@ -1,80 +1,47 @@
 #include "packs/window/UnzipForm.h"
-#include "controls/ControlTable.h"
-#include "controls/VistaButton.h"
-#include "design/session/Design.h"
-#include "design/surface/PictureGate.h"
 #include "packs/window/UnzipBoxes.h"
 #include "tests/packs/Archives.h"
-#include "tests/support/Answer.h"
-
-#include <QApplication>
-#include <QDir>
-#include <QInputDialog>
-#include <QLabel>
-#include <QListWidget>
-#include <QTemporaryDir>
+#include "tests/support/FormTest.h"
 
 using namespace kaart;
 
-class UnzipFormTest : public QObject {
+class UnzipFormTest : public FormTest<UnzipForm> {
     Q_OBJECT
-
-    std::unique_ptr<QTemporaryDir> root_;
-    std::unique_ptr<Design> design_;
-    std::unique_ptr<UnzipForm> form_;
-
-    QListWidget& list(const char* name) const { return control<QListWidget>(*form_, name); }
-    QString label() const { return control<QLabel>(*form_, "Label2").text(); }
-    void pick(QListWidget& list, const QString& name) const {
-        auto* item = list.findItems(name, Qt::MatchExactly).value(0);
-        QVERIFY(item != nullptr);
-        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(item).center());
-    }
-    void press(const char* button) const {
-        QTest::mouseClick(&control<VistaButton>(*form_, button), Qt::LeftButton);
-    }
 
 private slots:
     void init() {
-        root_ = std::make_unique<QTemporaryDir>();
+        begin();
         QVERIFY(QDir(root_->path()).mkdir("Frames"));
-        const QString picture = root_->filePath("rood.bmp");
-        QImage red(4, 3, QImage::Format_RGB32);
-        red.fill(0xFFFF0000);
-        QVERIFY(SavePicture(red, picture));
-        QFile file(picture);
+        write("rood.bmp", plain(4, 3, RGB(255, 0, 0)));
+        QFile file(path("rood.bmp"));
         QVERIFY(file.open(QIODevice::ReadOnly));
-        const Packed packed{"Extra/rood.bmp", file.readAll()};
+        writeZip(path("Kaders.ZIP"), {{"Extra/rood.bmp", file.readAll()}});
         QVERIFY(file.remove());
-        writeZip(root_->filePath("Kaders.ZIP"), {packed});
-        writeZip(root_->filePath("anders.zip"), {{"x", "xx", ZIP_EM_AES_256}});
-        design_ = std::make_unique<Design>(ProgramFolders{root_->path(), root_->path()});
-        form_ = std::make_unique<UnzipForm>(*design_);
-        form_->show();
+        writeZip(path("anders.zip"), {{"x", "xx", ZIP_EM_AES_256}});
+        open();
     }
-    void cleanup() { form_.reset(); }
 
     void PickedPackUnpacksBesideItself() {
-        QCOMPARE(list("List1").count(), 2);
-        QVERIFY(!list("File1").isVisible());
-        QCOMPARE(label(), "Naam Zip-Bestand");
+        QCOMPARE(lines("List1").size(), 2);
+        QVERIFY(!part("File1").isVisible());
+        QCOMPARE(text("Label2"), "Naam Zip-Bestand");
         press("UnzipKnop"); // no such file: silent
-        pick(list("List1"), "Kaders.ZIP");
-        QCOMPARE(label(), "Kaders.ZIP");
+        clickLine("List1", "Kaders.ZIP");
+        QCOMPARE(text("Label2"), "Kaders.ZIP");
         press("UnzipKnop");
-        const auto picture = LoadPicture(root_->filePath("Extra/rood.bmp"));
-        QVERIFY(picture && picture->pixel(3, 2) == 0xFFFF0000);
-        QVERIFY(form_->isVisible() && !form_->findChild<QWidget*>("Bar")->isVisible());
+        comparePictures(LoadPicture(path("Extra/rood.bmp")).value_or(QImage()),
+                        plain(4, 3, RGB(255, 0, 0)));
+        QVERIFY(form_->isVisible() && !part("Bar").isVisible());
         press("CancelKnop");
         QVERIFY(!form_->isVisible());
     }
 
     void FoldersListTheirPacks() {
-        pick(list("List1"), "anders.zip");
-        pick(list("Dir1"), "Frames");
-        QTest::keyClick(&list("Dir1"), Qt::Key_Return);
-        QCOMPARE(list("List1").count() + list("File1").count(), 0);
-        QCOMPARE(label(), "anders.zip"); // kept
+        clickLine("List1", "anders.zip");
+        clickLine("Dir1", "Frames");
+        QTest::keyClick(&part("Dir1"), Qt::Key_Return);
+        QCOMPARE(lines("List1") + lines("File1"), QStringList());
+        QCOMPARE(text("Label2"), "anders.zip"); // kept
     }
 
     void ProtectedPackAsksForItsPassword() {
@@ -88,10 +55,10 @@ private slots:
             }
         });
         timer.start(0);
-        pick(list("List1"), "anders.zip");
+        clickLine("List1", "anders.zip");
         press("UnzipKnop");
         QCOMPARE(seen, QStringList(2, "Please Enter The Password!"));
-        QCOMPARE(QFileInfo(root_->filePath("x")).size(), 2);
+        QCOMPARE(QFileInfo(path("x")).size(), 2);
     }
 
     void ReplaceBoxHasThreeAnswersAndClosingStops() {

@@ -1,11 +1,5 @@
 #include "pictures/window/CaptureForm.h"
-#include "controls/SurfaceView.h"
-#include "design/session/Design.h"
-#include "tests/support/Pictures.h"
-#include "tests/support/Test.h"
-
-#include <QAction>
-#include <QLabel>
+#include "tests/support/FormTest.h"
 
 using namespace kaart;
 
@@ -32,55 +26,39 @@ struct FakeGrab final : ScreenGrab {
 
 } // namespace
 
-class CaptureFormTest : public QObject {
+class CaptureFormTest : public FormTest<CaptureForm> {
     Q_OBJECT
 
-    std::unique_ptr<Design> design_;
     std::unique_ptr<QWidget> owner_;
-    std::unique_ptr<CaptureForm> form_;
     FakeGrab* screen_ = nullptr;
     QImage desktop_;
 
-    QWidget* part(const char* name) const {
-        return form_->findChild<QWidget*>(QLatin1String(name));
-    }
-    void menu(const char* name) const {
-        form_->findChild<QAction*>(QLatin1String(name))->trigger();
-    }
-    void open(bool live) {
-        form_.reset();
+    void menu(const char* name) const { part<QAction>(name).trigger(); }
+    void openOn(bool live) {
         auto screen = std::make_unique<FakeGrab>(live);
         screen_ = screen.get();
         screen_->picture = desktop_;
-        form_ = std::make_unique<CaptureForm>(*design_, owner_.get(), std::move(screen), 0);
         screen_->watched = owner_.get();
-        form_->show();
-    }
-    void drag(const QPoint& from, const QPoint& to) const {
-        QTest::mousePress(part("Pic"), Qt::LeftButton, {}, from);
-        QMouseEvent move(QEvent::MouseMove, to, part("Pic")->mapToGlobal(to), Qt::NoButton,
-                         Qt::LeftButton, {});
-        QCoreApplication::sendEvent(part("Pic"), &move);
-        QTest::mouseRelease(part("Pic"), Qt::LeftButton, {}, to);
+        open(owner_.get(), std::move(screen), 0);
     }
 
 private slots:
     void init() {
         std::mt19937 random(3);
         desktop_ = randomPicture(900, 700, random);
-        design_ = std::make_unique<Design>(ProgramFolders{});
+        begin();
         owner_ = std::make_unique<QWidget>();
         owner_->show();
-        open(true);
+        openOn(true);
     }
-    void cleanup() { form_.reset(); }
+    void cleanup() { form_.reset(); } // before its owner goes
 
     void TheDesktopIsPicturedWithoutTheWindows() {
-        QVERIFY(part("Label1")->isVisible() && !part("Pic")->isVisible());
+        QVERIFY(part("Label1").isVisible() && !part("Pic").isVisible());
         menu("Afdruk");
         QVERIFY(!screen_->windowsSeen);
-        QVERIFY(form_->isVisible() && owner_->isVisible() && !part("Label1")->isVisible());
-        comparePictures(part("Pic")->property("Image").value<QImage>(), desktop_);
+        QVERIFY(form_->isVisible() && owner_->isVisible() && !part("Label1").isVisible());
+        comparePictures(image("Pic"), desktop_);
     }
 
     void TheBandGrowsDownAndRightOnly_data() {
@@ -97,8 +75,8 @@ private slots:
         QFETCH(QPoint, to);
         QFETCH(QRect, cut);
         menu("Afdruk");
-        drag(from, to);
-        QVERIFY(!part("Pic")->isVisible() && part("Picture1")->isVisible());
+        drag(part("Pic"), from, to);
+        QVERIFY(!part("Pic").isVisible() && part("Picture1").isVisible());
         menu("Export");
         QVERIFY(!form_->isVisible() && design_->ClipPic.Visible);
         comparePictures(design_->ClipPic.Image(), desktop_.copy(cut));
@@ -108,11 +86,11 @@ private slots:
     void NothingIsCutWithoutAnOwnDrag() {
         menu("Export");
         menu("Afdruk");
-        QTest::mouseClick(part("Pic"), Qt::RightButton, {}, {12, 13});
+        QTest::mouseClick(&part("Pic"), Qt::RightButton, {}, {12, 13});
         QCOMPARE(QPointF(design_->BeginX, design_->BeginY), QPointF(12, 13));
-        QVERIFY(!part("Layer")->isVisible());
-        QTest::mouseClick(part("Pic"), Qt::LeftButton, {}, {20, 20});
-        QVERIFY(part("Pic")->isVisible());
+        QVERIFY(!part("Layer").isVisible());
+        QTest::mouseClick(&part("Pic"), Qt::LeftButton, {}, {20, 20});
+        QVERIFY(part("Pic").isVisible());
         menu("Export");
         QVERIFY(form_->isVisible() && !design_->ClipPic.Visible);
         menu("FileExit");
@@ -126,26 +104,26 @@ private slots:
     }
     void WithoutAPictureTheWindowSaysWhatToDo() {
         QFETCH(bool, live);
-        open(live);
+        openOn(live);
         screen_->picture = QImage();
         menu("Afdruk");
         if (!live) {
             QVERIFY(!owner_->isVisible());
             emit screen_->refused();
         }
-        QVERIFY(owner_->isVisible() && form_->isVisible() && part("Label1")->isVisible());
-        QVERIFY(form_->findChild<QLabel*>("Label2")->text().contains("klik", Qt::CaseInsensitive));
+        QVERIFY(owner_->isVisible() && form_->isVisible() && part("Label1").isVisible());
+        QVERIFY(text("Label2").contains("klik", Qt::CaseInsensitive));
         screen_->picture = desktop_;
         menu("Afdruk");
         if (!live) {
             emit screen_->frozen();
         }
-        QVERIFY(owner_->isVisible() && part("Pic")->isVisible());
-        QVERIFY(form_->findChild<QLabel*>("Label2")->text().isEmpty());
+        QVERIFY(owner_->isVisible() && part("Pic").isVisible());
+        QVERIFY(text("Label2").isEmpty());
     }
 
     void ClosingBringsTheOwnerBack() {
-        open(false);
+        openOn(false);
         menu("Afdruk");
         form_->reject();
         QVERIFY(owner_->isVisible() && !form_->isVisible());

@@ -1,75 +1,61 @@
 #include "puzzle/window/ScoreForm.h"
-#include "design/session/Design.h"
 #include "puzzle/PuzzleResult.h"
-#include "tests/support/Answer.h"
-#include "tests/support/Test.h"
-
-#include <QAbstractButton>
-#include <QHeaderView>
-#include <QTemporaryDir>
-#include <QTreeView>
+#include "tests/support/FormTest.h"
 
 using namespace kaart;
 
-class ScoreFormTest : public QObject {
+class ScoreFormTest : public FormTest<ScoreForm> {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> root_;
-    std::unique_ptr<Design> design_;
     PuzzleResult result_;
-    std::unique_ptr<ScoreForm> form_;
 
-    QString path() const { return root_->filePath("Data/Scorelijst.col"); }
-    QTreeView* list() const { return form_->findChild<QTreeView*>("ListView1"); }
-    void press(const char* button) { form_->findChild<QAbstractButton*>(button)->click(); }
+    QString file() const { return path("Data/Scorelijst.col"); }
+    QTreeView& list() const { return part<QTreeView>("ListView1"); }
     /// Clicks on the header of a column, from 1.
     void sort(int column) {
-        auto* header = list()->header();
+        auto* header = list().header();
         const int x = header->sectionViewportPosition(column - 1) + 20;
         QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(x, 8));
     }
     QString icon(int column) const {
-        return list()->model()->headerData(column - 1, Qt::Horizontal, Qt::UserRole).toString();
+        return list().model()->headerData(column - 1, Qt::Horizontal, Qt::UserRole).toString();
     }
     /// Name and score of each row on screen, and of each row in the file.
     QString shown() const {
         QStringList rows;
-        for (int row = 0; row < list()->model()->rowCount(); ++row) {
-            const QModelIndex index = list()->model()->index(row, 0);
+        for (int row = 0; row < list().model()->rowCount(); ++row) {
+            const QModelIndex index = list().model()->index(row, 0);
             rows << index.data().toString() + index.siblingAtColumn(4).data().toString();
         }
         return rows.join('|');
     }
     QString saved() const {
         QStringList rows;
-        for (const QStringList& row : LoadPuzzel(path()).Rows) {
+        for (const QStringList& row : LoadPuzzel(file()).Rows) {
             rows << row[0] + row[4];
         }
         return rows.join('|');
     }
-    void open(const QStringList& scores) {
+    void openWith(const QStringList& scores) {
         SortableList list;
         for (int row = 0; row < scores.size(); ++row) {
             list.Rows << QStringList{QChar('A' + row), "g", "t", "1", scores[row]};
         }
-        SavePuzzel(list, path());
-        form_ = std::make_unique<ScoreForm>(*design_, result_);
-        form_->show();
+        SavePuzzel(list, file());
+        open(result_);
     }
 
 private slots:
     void init() {
-        root_ = std::make_unique<QTemporaryDir>();
-        design_ = std::make_unique<Design>(ProgramFolders{root_->path(), root_->path()});
+        begin();
         result_ = {};
     }
-    void cleanup() { form_.reset(); }
 
     void WaitingGameGetsARowThatTheTitleDoesNotCount() {
         result_.ScoreName = " Piet ";
         result_.LastScore = 640;
         result_.LastTurns = 7;
-        open({"5"});
+        openWith({"5"});
         QCOMPARE(form_->windowTitle(), QString("Puntenlijst / 1 Spelers"));
         QCOMPARE(shown(), QString("A5| Piet 640"));
         form_->close();
@@ -81,12 +67,12 @@ private slots:
         QCOMPARE(saved(), QString("A5|Piet640"));
         QCOMPARE(result_.ScoreName + QString::number(result_.LastTurns + result_.LastScore),
                  QString("0"));
-        open({});
+        openWith({});
         QCOMPARE(form_->windowTitle() + shown(), QString("Puntenlijst / 0 Spelers"));
     }
 
     void HeaderClicksSortUpThenDownAndAreSaved() {
-        open({"300", "5", "0", "40"});
+        openWith({"300", "5", "0", "40"});
         sort(5);
         QCOMPARE(shown() + icon(5), QString("C|B5|D40|A300down"));
         sort(5);
@@ -96,23 +82,23 @@ private slots:
         form_->show();
         form_->activateWindow();
         QCoreApplication::processEvents();
-        QTest::keyClick(list(), Qt::Key_1, Qt::ControlModifier);
+        QTest::keyClick(&list(), Qt::Key_1, Qt::ControlModifier);
         QCOMPARE(shown() + icon(1) + icon(5), QString("A300|B5|C|D40down"));
     }
 
     void FailedSortSaysSo() {
-        open({"300", "-5"});
+        openWith({"300", "-5"});
         Answer answer;
         sort(5);
         QCOMPARE(answer.seen().size(), 1);
         QVERIFY(answer.seen()[0].startsWith("|Fout in sorteer routine!"));
-        QVERIFY(!list()->isVisible()); // kept
+        QVERIFY(!list().isVisible()); // kept
         press("CancelKnop");
         QCOMPARE(saved(), QString("B0-5|A300"));
     }
 
     void DeletingTakesTheSelectedRowWhereverItWasSorted() {
-        open({"300", "5"});
+        openWith({"300", "5"});
         sort(5);
         Answer answer;
         answer.press(QMessageBox::No).press(QMessageBox::Yes).press(QMessageBox::Yes);
