@@ -1,7 +1,6 @@
 #include "controls/Fader.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Test.h"
-
-#include <QSignalSpy>
 
 using namespace kaart;
 
@@ -21,24 +20,18 @@ struct TestFader : Fader {
 class FaderTest : public QObject {
     Q_OBJECT
 
+    using Ticks = Rows<int, int, qint64>;
+
 private slots:
-    void ClickBringsTheHandleThere_data() {
-        QTest::addColumn<int>("x");
-        QTest::addColumn<int>("value");
-        QTest::newRow("left end") << 0 << 0;
-        QTest::newRow("just right of the lowest") << 8 << 1;
-        QTest::newRow("middle") << 57 << 50;
-        QTest::newRow("just left of the highest") << 106 << 99;
-        QTest::newRow("right end") << 114 << 100;
-    }
     void ClickBringsTheHandleThere() {
-        QFETCH(int, x);
-        QFETCH(int, value);
-        TestFader fader;
-        fader.setValue(value < 50 ? 80 : 20);
-        QTest::mouseClick(&fader, Qt::LeftButton, {}, QPoint(x, 10));
-        QCOMPARE(fader.value(), value);
-        QVERIFY(!fader.isSliderDown());
+        // The ends, the middle, and just inside the ends.
+        for (const auto& [x, value] : {std::pair(0, 0), {8, 1}, {57, 50}, {106, 99}, {114, 100}}) {
+            TestFader fader;
+            fader.setValue(value < 50 ? 80 : 20);
+            QTest::mouseClick(&fader, Qt::LeftButton, {}, QPoint(x, 10));
+            QCOMPARE(fader.value(), value);
+            QVERIFY(!fader.isSliderDown());
+        }
     }
 
     void ClickOnTheHandleMovesNothing() {
@@ -79,21 +72,17 @@ private slots:
         QCOMPARE(fader.value(), 30);
     }
 
-    void KeysStep_data() {
-        QTest::addColumn<Qt::Key>("key");
-        QTest::addColumn<int>("value");
-        QTest::newRow("right") << Qt::Key_Right << 51;
-        QTest::newRow("left") << Qt::Key_Left << 49;
-        QTest::newRow("page up") << Qt::Key_PageUp << 60;
-        QTest::newRow("home") << Qt::Key_Home << 0;
-        QTest::newRow("end") << Qt::Key_End << 100;
-    }
     void KeysStep() {
-        QFETCH(Qt::Key, key);
-        TestFader fader;
-        fader.setValue(50);
-        QTest::keyClick(&fader, key);
-        QTEST(fader.value(), "value");
+        for (const auto& [key, value] : {std::pair(Qt::Key_Right, 51),
+                                         {Qt::Key_Left, 49},
+                                         {Qt::Key_PageUp, 60},
+                                         {Qt::Key_Home, 0},
+                                         {Qt::Key_End, 100}}) {
+            TestFader fader;
+            fader.setValue(50);
+            QTest::keyClick(&fader, key);
+            QCOMPARE(fader.value(), value);
+        }
     }
 
     void NothingMovesADisabledOrEmptyFader() {
@@ -124,21 +113,18 @@ private slots:
     }
 
     void TickMarksKeepTheirDistance_data() {
-        QTest::addColumn<int>("minimum");
-        QTest::addColumn<int>("maximum");
-        QTest::addColumn<qint64>("step");
-        QTest::newRow("every value fits") << 1 << 17 << qint64(1);
-        QTest::newRow("just one too many") << 1 << 18 << qint64(2);
-        QTest::newRow("colour") << 0 << 255 << qint64(20);
-        QTest::newRow("one value") << 5 << 5 << qint64(1);
-        QTest::newRow("widest range") << -2147483647 << 2147483647 << qint64(500000000);
+        const Ticks row;
+        row("every value fits", 1, 17, 1);
+        row("just one too many", 1, 18, 2);
+        row("colour", 0, 255, 20);
+        row("one value", 5, 5, 1);
+        row("widest range", -2147483647, 2147483647, 500000000);
     }
     void TickMarksKeepTheirDistance() {
-        QFETCH(int, minimum);
-        QFETCH(int, maximum);
+        const auto [minimum, maximum, step] = Ticks::now();
         TestFader fader;
         fader.setRange(minimum, maximum);
-        QTEST(fader.tickStep(), "step");
+        QCOMPARE(fader.tickStep(), step);
     }
 };
 

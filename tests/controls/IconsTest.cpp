@@ -1,8 +1,6 @@
 #include "controls/Icons.h"
 #include "tests/support/Test.h"
 
-#include <QDir>
-
 using namespace kaart;
 
 class IconsTest : public QObject {
@@ -10,8 +8,8 @@ class IconsTest : public QObject {
 
 private slots:
     void EveryPictureIsDrawnAtEverySize() {
-        const QDir drawn(qEnvironmentVariable("KAART_SOURCE") + QStringLiteral("/data/icons"));
-        const QFileInfoList files = drawn.entryInfoList({QStringLiteral("*.svg")});
+        const QDir drawn(qEnvironmentVariable("KAART_SOURCE") + "/data/icons");
+        const QFileInfoList files = drawn.entryInfoList({"*.svg"});
         QVERIFY(!files.isEmpty());
         for (const QFileInfo& file : files) {
             const QIcon found = icon(file.baseName());
@@ -28,7 +26,7 @@ private slots:
     }
 
     void DisabledPictureIsFaded() {
-        const QIcon found = icon(QStringLiteral("annuleren"));
+        const QIcon found = icon("annuleren");
         const QColor normal = found.pixmap(QSize(24, 24), 1).toImage().pixelColor(12, 12);
         const QColor faded =
             found.pixmap(QSize(24, 24), 1, QIcon::Disabled).toImage().pixelColor(12, 12);
@@ -37,7 +35,7 @@ private slots:
         QVERIFY(faded.alpha() > 0);
     }
 
-    void UnknownNameGivesNoPicture() { QVERIFY(icon(QStringLiteral("bestaat-niet")).isNull()); }
+    void UnknownNameGivesNoPicture() { QVERIFY(icon("bestaat-niet").isNull()); }
 };
 
 KAART_TEST(IconsTest)

@@ -1,36 +1,35 @@
 #include "controls/Mnemonics.h"
 #include "controls/VistaButton.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Test.h"
-
-#include <QMenuBar>
 
 using namespace kaart;
 
 class MnemonicsTest : public QObject {
     Q_OBJECT
 
+    using Captions = Rows<QStringList, QString>;
+
 private slots:
     void EachCaptionHasTheLetterThatIsExpected_data() {
-        QTest::addColumn<QStringList>("captions");
-        QTest::addColumn<QString>("lettered");
-        QTest::newRow("first letters, else others")
-            << QStringList{"Bestand", "Bewerken", "Orientatie", "Omklappen"}
-            << "&Bestand|B&ewerken|&Orientatie|O&mklappen";
-        QTest::newRow("later words come before what is within a word")
-            << QStringList{"Flip Horizontaal", "Flip Vertikaal", "1 Pixels"}
-            << "&Flip Horizontaal|Flip &Vertikaal|&1 Pixels";
-        QTest::newRow("one makes room for another") << QStringList{"AB", "A"} << "A&B|&A";
-        QTest::newRow("no more letters than there are") << QStringList{"A", "Ä", "a!"} << "&A|Ä|a!";
-        QTest::newRow("alike") << QStringList{"Plaatsen", "Plaatsen"} << "&Plaatsen|&Plaatsen";
-        QTest::newRow("nothing to give") << QStringList{"", "-"} << "|-";
+        const Captions row;
+        row("first letters, else others", {"Bestand", "Bewerken", "Orientatie", "Omklappen"},
+            "&Bestand|B&ewerken|&Orientatie|O&mklappen");
+        row("later words come before what is within a word",
+            {"Flip Horizontaal", "Flip Vertikaal", "1 Pixels"},
+            "&Flip Horizontaal|Flip &Vertikaal|&1 Pixels");
+        row("one makes room for another", {"AB", "A"}, "A&B|&A");
+        row("no more letters than there are", {"A", "Ä", "a!"}, "&A|Ä|a!");
+        row("alike", {"Plaatsen", "Plaatsen"}, "&Plaatsen|&Plaatsen");
+        row("nothing to give", {"", "-"}, "|-");
     }
     void EachCaptionHasTheLetterThatIsExpected() {
-        QFETCH(QStringList, captions);
+        auto [captions, lettered] = Captions::now();
         const QList<QChar> letters = mnemonicsFor(captions);
         for (qsizetype i = 0; i < captions.size(); ++i) {
             captions[i] = withMnemonic(captions[i], letters[i]);
         }
-        QTEST(captions.join('|'), "lettered");
+        QCOMPARE(captions.join('|'), lettered);
     }
 
     void ButtonsTakeWhatTheMenuBarLeaves() {

@@ -3,10 +3,6 @@
 #include "tests/support/Pictures.h"
 #include "tests/support/Test.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-
 using namespace kaart;
 
 class PaperPrinterTest : public QObject {
@@ -15,9 +11,7 @@ class PaperPrinterTest : public QObject {
     QTemporaryDir folder_;
     QString path_;
 
-    std::unique_ptr<PaperPrinter> printer() const {
-        return PaperPrinter::forPdf(QStringLiteral("PDF"), path_);
-    }
+    std::unique_ptr<PaperPrinter> printer() const { return PaperPrinter::forPdf("PDF", path_); }
 
 private slots:
     void initTestCase() {
@@ -52,8 +46,7 @@ private slots:
         paper->Line(0, 0, 5000, 5000, black);
         paper->NewPage();
         QVERIFY(paper->EndDoc());
-        QCOMPARE(PdfFile(path_).pages(), QStringList({QStringLiteral("595 x 842 pts (A4)"),
-                                                      QStringLiteral("842 x 595 pts (A4)")}));
+        QCOMPARE(PdfFile(path_).pages(), QStringList({"595 x 842 pts (A4)", "842 x 595 pts (A4)"}));
     }
 
     void DrawingStandsWhereTwipsPutIt() {
@@ -61,9 +54,8 @@ private slots:
         paper->Orientation = 2;
         paper->FillStyle = Fill::Solid;
         paper->FillColor = RGB(240, 240, 240);
-        paper->PaintPicture(pictureOf({QStringLiteral("23")}), 1440, 1440, 2880, 1440, 0, 0, 2, 1);
-        paper->PaintPicture(pictureOf({QStringLiteral("1234")}), 7200, 1440, -1440, 1440, 1, 0, 2,
-                            1);
+        paper->PaintPicture(pictureOf({"23"}), 1440, 1440, 2880, 1440, 0, 0, 2, 1);
+        paper->PaintPicture(pictureOf({"1234"}), 7200, 1440, -1440, 1440, 1, 0, 2, 1);
         paper->Line(1440, 5760, 2880, 7200, RGB(0, 0, 255), LineMode::Box);
         paper->Line(4320, 5760, 5760, 7200, RGB(0, 0, 255), LineMode::FilledBox);
         QVERIFY(paper->EndDoc());
@@ -92,9 +84,9 @@ private slots:
         paper->FontSize = 72;
         paper->CurrentX = 1440;
         paper->CurrentY = 1440;
-        const double line = paper->TextHeight(QStringLiteral("H"));
+        const double line = paper->TextHeight("H");
         QVERIFY(line > 72 * 20 && line < 72 * 20 * 1.3);
-        paper->Print(QStringLiteral("HHH"));
+        paper->Print("HHH");
         QCOMPARE(paper->CurrentY, 1440 + line);
         QVERIFY(paper->EndDoc());
         const auto words = PdfFile(path_).words(1);

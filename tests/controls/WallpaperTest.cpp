@@ -4,16 +4,13 @@
 #include "design/surface/PictureGate.h"
 #include "tests/support/Answer.h"
 #include "tests/support/Pictures.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Test.h"
 
 #include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusUnixFileDescriptor>
 #include <QDBusVirtualObject>
-#include <QProcess>
-#include <QStandardPaths>
-#include <QTemporaryDir>
-#include <QThread>
 
 using namespace kaart;
 
@@ -65,7 +62,7 @@ public:
         return line.send(signal);
     }
 
-    QDBusConnection bus{QStringLiteral("none")};
+    QDBusConnection bus{"none"};
     QString asked;
     QString said;
 
@@ -90,6 +87,9 @@ private:
 class WallpaperTest : public QObject {
     Q_OBJECT
 
+    // What the desktop's command does when called, and how it is called.
+    using Desktop = Rows<QByteArray, QString, QStringList>;
+
 private slots:
     void initTestCase() {
         qputenv("XDG_DATA_HOME", folder_.filePath("it's a \"home\"").toUtf8());
@@ -98,27 +98,19 @@ private slots:
     }
 
     void ThePictureIsSavedAndGivenToTheDesktop_data() {
-        QTest::addColumn<QByteArray>("desktop");
-        QTest::addColumn<QString>("answer"); ///< what the desktop's command does when called
-        QTest::addColumn<QStringList>("calls");
+        const Desktop row;
         const QString set = "set|org.gnome.desktop.background|picture-uri";
-        QTest::newRow("gnome") << QByteArray("ubuntu:GNOME") << ""
-                               << QStringList{set + "|URL", set + "-dark|URL"};
-        QTest::newRow("refused") << QByteArray("GNOME") << "exit 1" << QStringList{set + "|URL"};
-        QTest::newRow("mate") << QByteArray("MATE") << ""
-                              << QStringList{"set|org.mate.background|picture-filename|PATH"};
-        QTest::newRow("unknown") << QByteArray("sway") << "" << QStringList();
+        row("gnome", "ubuntu:GNOME", "", {set + "|URL", set + "-dark|URL"});
+        row("refused", "GNOME", "exit 1", {set + "|URL"});
+        row("mate", "MATE", "", {"set|org.mate.background|picture-filename|PATH"});
+        row("unknown", "sway", "", {});
         const QString one = "-c|xfce4-desktop|-p|/one/last-image|-n|-t|string|-s|";
         const QString two = "-c|xfce4-desktop|-p|/two/last-image|-n|-t|string|-s|";
-        QTest::newRow("xfce") << QByteArray("XFCE")
-                              << "echo /one/last-image; echo /style; echo /two/last-image"
-                              << QStringList{"-c|xfce4-desktop|-l", one, one + "PATH", two,
-                                             two + "PATH"};
+        row("xfce", "XFCE", "echo /one/last-image; echo /style; echo /two/last-image",
+            {"-c|xfce4-desktop|-l", one, one + "PATH", two, two + "PATH"});
     }
     void ThePictureIsSavedAndGivenToTheDesktop() {
-        QFETCH(QByteArray, desktop);
-        QFETCH(QString, answer);
-        QFETCH(QStringList, calls);
+        auto [desktop, answer, calls] = Desktop::now();
         qputenv("XDG_CURRENT_DESKTOP", desktop);
         fakeCommands(answer);
         const QString path =
@@ -148,28 +140,23 @@ private slots:
     void PlasmaRunsAScriptWithTheFileAsALiteral() {
         Shell shell{QString()};
         QVERIFY(setPlasmaWallpaper("/tmp/a'\"\\);b.bmp", shell.bus));
-        QCOMPARE(shell.asked, QStringLiteral("org.kde.PlasmaShell.evaluateScript"));
+        QCOMPARE(shell.asked, "org.kde.PlasmaShell.evaluateScript");
         QVERIFY2(shell.said.startsWith("var file = [\"file:///tmp/a'%22%5C);b.bmp\"][0];"),
                  qPrintable(shell.said));
         QVERIFY(!setPlasmaWallpaper("/tmp/a.bmp", QDBusConnection("none")));
     }
 
-    void ThePortalGetsTheFileItself_data() {
-        QTest::addColumn<QString>("outcome");
-        for (const char* outcome : {"yes", "no", "refused"}) {
-            QTest::newRow(outcome) << outcome;
-        }
-    }
     void ThePortalGetsTheFileItself() {
-        QFETCH(QString, outcome);
-        QFile file(folder_.filePath("a.bmp"));
-        QVERIFY(file.open(QFile::WriteOnly) && file.write("bytes") == 5);
-        file.close();
-        Shell portal(outcome);
-        QCOMPARE(setPortalWallpaper(file.fileName(), portal.bus), outcome == "yes");
-        QCOMPARE(portal.asked, QStringLiteral("org.freedesktop.portal.Wallpaper.SetWallpaperFile"));
-        QCOMPARE(portal.said, outcome == "refused" ? QString() : QStringLiteral("bytes"));
-        QVERIFY(!setPortalWallpaper("/nowhere.bmp", portal.bus));
+        for (const QString outcome : {"yes", "no", "refused"}) {
+            QFile file(folder_.filePath("a.bmp"));
+            QVERIFY(file.open(QFile::WriteOnly) && file.write("bytes") == 5);
+            file.close();
+            Shell portal(outcome);
+            QCOMPARE(setPortalWallpaper(file.fileName(), portal.bus), outcome == "yes");
+            QCOMPARE(portal.asked, "org.freedesktop.portal.Wallpaper.SetWallpaperFile");
+            QCOMPARE(portal.said, outcome == "refused" ? "" : "bytes");
+            QVERIFY(!setPortalWallpaper("/nowhere.bmp", portal.bus));
+        }
     }
 
 private:

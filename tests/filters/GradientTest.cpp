@@ -1,12 +1,15 @@
 #include "filters/Gradient.h"
 #include "tests/support/LiteralGradient.h"
 #include "tests/support/Pictures.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Test.h"
 
 using namespace kaart;
 
 class GradientTest : public QObject {
     Q_OBJECT
+
+    using Circle = Rows<QSize, int, QPointF, int>; // size, steps, centre and pen
 
 private slots:
     void EveryDirectionEqualsItsBands_data() {
@@ -46,25 +49,19 @@ private slots:
     }
 
     void CirclesEqualTheirBands_data() {
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<int>("steps");
-        QTest::addColumn<QPointF>("centre");
-        QTest::addColumn<int>("pen");
+        const Circle row;
         const QPointF middle(-1, -1);
-        QTest::newRow("upright") << QSize(440, 640) << 255 << middle << 1;
-        QTest::newRow("lying, pen 2") << QSize(640, 440) << 255 << middle << 2;
-        QTest::newRow("pen 25") << QSize(200, 301) << 255 << middle << 25;
-        QTest::newRow("odd sides") << QSize(57, 33) << 255 << middle << 1;
-        QTest::newRow("few steps") << QSize(101, 202) << 7 << middle << 3;
-        QTest::newRow("one step") << QSize(4, 4) << 1 << middle << 1;
-        QTest::newRow("off the middle") << QSize(121, 80) << 60 << QPointF(30.3, -1) << 4;
-        QTest::newRow("outside") << QSize(50, 40) << 90 << QPointF(70.5, 100.25) << 1;
+        row("upright", {440, 640}, 255, middle, 1);
+        row("lying, pen 2", {640, 440}, 255, middle, 2);
+        row("pen 25", {200, 301}, 255, middle, 25);
+        row("odd sides", {57, 33}, 255, middle, 1);
+        row("few steps", {101, 202}, 7, middle, 3);
+        row("one step", {4, 4}, 1, middle, 1);
+        row("off the middle", {121, 80}, 60, {30.3, -1}, 4);
+        row("outside", {50, 40}, 90, {70.5, 100.25}, 1);
     }
     void CirclesEqualTheirBands() {
-        QFETCH(QSize, size);
-        QFETCH(int, steps);
-        QFETCH(QPointF, centre);
-        QFETCH(int, pen);
+        const auto [size, steps, centre, pen] = Circle::now();
         for (const ScaleUnit unit : {ScaleUnit::Pixels, ScaleUnit::Twips}) {
             std::mt19937 random(9);
             const ColorRef a = random() & 0xFFFFFFU;

@@ -3,6 +3,7 @@
 
 #include "design/surface/Random.h"
 #include "tests/support/Pictures.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Test.h"
 
 using namespace kaart;
@@ -10,15 +11,12 @@ using namespace kaart;
 class CurvedTextTest : public QObject {
     Q_OBJECT
 
+    using Glyph = Rows<GlyphPlaces, std::size_t, QPointF>; // counted from 1
+
 private slots:
     void GlyphsStandOnTheirCurve_data() {
-        QTest::addColumn<GlyphPlaces>("places");
-        QTest::addColumn<int>("glyph"); // from 1
-        QTest::addColumn<QPointF>("expected");
+        const Glyph row;
         const QPoint o(300, 150);
-        const auto row = [](const char* name, const GlyphPlaces& places, int glyph, QPointF at) {
-            QTest::newRow(name) << places << glyph << at;
-        };
         row("wave without curves", wavePlaces(3, o, 10, 0, 30), 2, {320, 120});
         row("wave, all on one x", wavePlaces(6, o, 0, 1800, 100), 1, {300, 100.2301});
         row("wave, ten half turns", wavePlaces(6, o, 7, 1800, 100), 6, {342, 50.0127});
@@ -32,13 +30,10 @@ private slots:
         row("ellipse", ellipsePlaces(2, o, 200, 90, 4, 100, 90), 1, {229.4302, 164.1703});
     }
     void GlyphsStandOnTheirCurve() {
-        QFETCH(GlyphPlaces, places);
-        QFETCH(int, glyph);
-        QFETCH(QPointF, expected);
-        const QPointF got = places.at(static_cast<std::size_t>(glyph - 1));
-        const QPointF off = got - expected;
-        QVERIFY2(off.manhattanLength() < 0.001,
-                 qPrintable(QStringLiteral("(%1, %2)").arg(got.x()).arg(got.y())));
+        const auto [places, glyph, expected] = Glyph::now();
+        const QPointF got = places.at(glyph - 1);
+        QVERIFY2((got - expected).manhattanLength() < 0.001,
+                 qPrintable(QString("(%1, %2)").arg(got.x()).arg(got.y())));
     }
 
     void CurvesStartAtTheMiddleHalvesGoingToTheEvenPixel() {

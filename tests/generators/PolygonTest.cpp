@@ -1,5 +1,6 @@
 #include "generators/Polygon.h"
 #include "design/surface/GraphicsCalls.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Test.h"
 
 #include <numbers>
@@ -17,16 +18,11 @@ bool near(const QPointF& got, const QPointF& expected) {
 class PolygonTest : public QObject {
     Q_OBJECT
 
+    using Corners = Rows<double, double, float, QList<QPointF>>; // round (0, 0)
+
 private slots:
     void CornersLieOnTheirCircle_data() {
-        QTest::addColumn<float>("rotation");
-        QTest::addColumn<float>("aspect");
-        QTest::addColumn<float>("radius");
-        QTest::addColumn<QList<QPointF>>("corners"); // round (0, 0)
-        const auto row = [](const char* name, double turn, float aspect, float radius,
-                            const QList<QPointF>& corners) {
-            QTest::newRow(name) << static_cast<float>(turn) << aspect << radius << corners;
-        };
+        const Corners row; // rotation, aspect and radius
         row("triangle", 0, 1, 20, {{-20, 0}, {10, -17.3205}, {10, 17.3205}});
         row("square", 0, 1, 20, {{-20, 0}, {0, -20}, {20, 0}, {0, 20}});
         row("turned by a third", std::numbers::pi / 3, 1, 20, {{-10, -17.3205}, {10, 17.3205}});
@@ -35,13 +31,10 @@ private slots:
         row("flat", 0, 0.5, 20, {{-20, 0}, {0, -10}, {20, 0}, {0, 10}});
     }
     void CornersLieOnTheirCircle() {
-        QFETCH(float, rotation);
-        QFETCH(float, aspect);
-        QFETCH(float, radius);
-        QFETCH(QList<QPointF>, corners);
-        const float before = rotation;
-        const auto got =
-            polygonCorners(rotation, aspect, 0, 0, radius, static_cast<int>(corners.size()));
+        const auto [before, aspect, radius, corners] = Corners::now();
+        auto rotation = static_cast<float>(before);
+        const auto got = polygonCorners(rotation, static_cast<float>(aspect), 0, 0, radius,
+                                        static_cast<int>(corners.size()));
         QCOMPARE(got.size(), static_cast<std::size_t>(corners.size()));
         for (int i = 0; i < corners.size(); ++i) {
             QVERIFY2(near(got[static_cast<std::size_t>(i)], corners[i]),

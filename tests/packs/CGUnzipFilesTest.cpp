@@ -1,10 +1,8 @@
 #include "packs/CGUnzipFiles.h"
 #include "design/surface/WholeFile.h"
 #include "tests/packs/Archives.h"
+#include "tests/support/Rows.h"
 
-#include <QDir>
-#include <QDirIterator>
-#include <QTemporaryDir>
 #include <QtEndian>
 
 using namespace kaart;
@@ -31,8 +29,6 @@ public:
 };
 
 } // namespace
-
-Q_DECLARE_METATYPE(UnzipSettings)
 
 class CGUnzipFilesTest : public QObject {
     Q_OBJECT
@@ -64,6 +60,9 @@ class CGUnzipFilesTest : public QObject {
         static_cast<UnzipSettings&>(unzip) = settings;
         return unzip.Unzip(zip(), in());
     }
+
+    using Asking = Rows<zip_uint16_t, QStringList, QString, bool>;
+    using Setting = Rows<UnzipSettings, QString>;
 
 private slots:
     void init() {
@@ -168,26 +167,18 @@ private slots:
     }
 
     void PasswordsAreAskedUntilRightAndKept_data() {
-        QTest::addColumn<int>("method");
-        QTest::addColumn<QStringList>("answers");
-        QTest::addColumn<QString>("asked");
-        QTest::addColumn<bool>("right");
-        for (const int method : {ZIP_EM_TRAD_PKWARE, ZIP_EM_AES_128, ZIP_EM_AES_256}) {
+        const Asking row;
+        for (const int tried : {ZIP_EM_TRAD_PKWARE, ZIP_EM_AES_128, ZIP_EM_AES_256}) {
+            const auto method = zip_uint16_t(tried);
             const QByteArray name = QByteArray::number(method, 16);
-            QTest::newRow(name + " right") << method << QStringList{"geheim"} << "a" << true;
-            QTest::newRow(name + " wrong first")
-                << method << QStringList{"Geheim", "", "geheim"} << "aaa" << true;
-            QTest::newRow(name + " thrice wrong")
-                << method << QStringList{"1", "2", "3", "4", "5", "6"} << "aaabbb" << false;
-            QTest::newRow(name + " cancelled") << method << QStringList{} << "a" << false;
+            row(name + " right", method, {"geheim"}, "a", true);
+            row(name + " wrong first", method, {"Geheim", "", "geheim"}, "aaa", true);
+            row(name + " thrice wrong", method, {"1", "2", "3", "4", "5", "6"}, "aaabbb", false);
+            row(name + " cancelled", method, {}, "a", false);
         }
     }
     void PasswordsAreAskedUntilRightAndKept() {
-        QFETCH(int, method);
-        QFETCH(QStringList, answers);
-        QFETCH(QString, asked);
-        QFETCH(bool, right);
-        const auto encryption = zip_uint16_t(method);
+        const auto [encryption, answers, asked, right] = Asking::now();
         writeZip(zip(), {{"a", "aa", encryption}, {"b", "bbb", encryption}, {"c", "open"}});
         user_->Passwords = answers;
         QCOMPARE(unzip(), right ? UnzipFine : UnzipNoPassword);
@@ -196,11 +187,7 @@ private slots:
     }
 
     void SettingsDoWhatTheyPromise_data() {
-        QTest::addColumn<UnzipSettings>("settings");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](const char* name, const UnzipSettings& settings, const char* expected) {
-            QTest::newRow(name) << settings << expected;
-        };
+        const Setting row;
         row("defaults", {}, "in/m 1/a=new in/old=new");
         row("keep", {.OverWriteFiles = 0}, "in/m 1/a=new in/old=mine");
         row("newer", {.ExtractNewer = 1}, "in/m 1/a=new in/old=mine");
@@ -211,8 +198,7 @@ private slots:
         row("16 bits", {.ExtractList = 0x10000}, "in/m 1/a=new in/old=new");
     }
     void SettingsDoWhatTheyPromise() {
-        QFETCH(UnzipSettings, settings);
-        QFETCH(QString, expected);
+        const auto [settings, expected] = Setting::now();
         QVERIFY(writeWholeFile(in("old"), "mine"));
         writeZip(zip(), {{"m 1/", ""}, {"m 1/a", "new"}, {"old", "new"}});
         QCOMPARE(unzip(settings), UnzipFine);

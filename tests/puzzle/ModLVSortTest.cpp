@@ -1,4 +1,5 @@
 #include "puzzle/modLVSort.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Test.h"
 
 using namespace kaart;
@@ -24,17 +25,12 @@ class ModLVSortTest : public QObject {
         return rows.join('|');
     }
 
+    using Sort = Rows<QString, int, int, QString>;
+    using BadSort = Rows<QString, int, QString, bool>;
+
 private slots:
     void RowsSortByTheirColumn_data() {
-        QTest::addColumn<QString>("before");
-        QTest::addColumn<int>("order");
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QString>("after");
-        const auto row = [](const char* name, const char* before, int order, int type,
-                            const char* after) {
-            QTest::newRow(name) << QString::fromUtf8(before) << order << type
-                                << QString::fromUtf8(after);
-        };
+        const Sort row;
         row("text", "eva1|Bo2|élan3|Zo4|eve5", 0, 0, "Bo2|élan3|eva1|eve5|Zo4");
         row("equal rows keep their order", "b1|B2|a3|b4", 0, 0, "a3|b1|B2|b4");
         row("so they do downwards", "b1|B2|a3|b4", 1, 0, "b1|B2|b4|a3");
@@ -51,38 +47,31 @@ private slots:
         row("no such type", "2a|1b", 0, 3, "2a|1b");
     }
     void RowsSortByTheirColumn() {
-        QFETCH(QString, before);
-        QFETCH(int, order);
-        QFETCH(int, type);
+        const auto [before, order, type, after] = Sort::now();
         SortableList list = listOf(before);
         const QString selected = list.Rows[0][0];
         QString message;
         QVERIFY(SortListView(list, 2, order, type, message));
-        QTEST(told(list), "after");
+        QCOMPARE(told(list), after);
         QCOMPARE(list.Rows[list.SelectedRow][0], selected);
         QVERIFY(list.Visible);
     }
 
     void BadCellStopsTheSort_data() {
-        QTest::addColumn<QString>("before");
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QString>("after");
-        QTest::addColumn<bool>("visible");
-        QTest::newRow("found at once") << "300a|5b|xc" << 1 << "300a|5b|xc" << true;
-        QTest::newRow("blanks are no number") << "300a| b" << 1 << "300a| b" << true;
-        QTest::newRow("spoilt by its zeros") << "-5a|300b|4c" << 1 << "0-5a|004c|300b" << false;
-        QTest::newRow("date") << "1-2-2015a|30-2-2015b" << 2 << "2015 02 01 00:00:00a|30-2-2015b"
-                              << false;
+        const BadSort row;
+        row("found at once", "300a|5b|xc", 1, "300a|5b|xc", true);
+        row("blanks are no number", "300a| b", 1, "300a| b", true);
+        row("spoilt by its zeros", "-5a|300b|4c", 1, "0-5a|004c|300b", false);
+        row("date", "1-2-2015a|30-2-2015b", 2, "2015 02 01 00:00:00a|30-2-2015b", false);
     }
     void BadCellStopsTheSort() {
-        QFETCH(QString, before);
-        QFETCH(int, type);
+        const auto [before, type, after, visible] = BadSort::now();
         SortableList list = listOf(before);
         QString message;
         QVERIFY(!SortListView(list, 2, 0, type, message));
         QCOMPARE(message, QString("Fout in sorteer routine!\r\n13\tTypen komen niet overeen"));
-        QTEST(told(list), "after");
-        QTEST(list.Visible, "visible");
+        QCOMPARE(told(list), after);
+        QCOMPARE(list.Visible, visible);
     }
 
     void OrderOfTheSortBeforeStaysAndColumnsMustBeThere() {

@@ -3,6 +3,7 @@
 #include "design/surface/Random.h"
 #include "puzzle/GameTexts.h"
 #include "tests/support/Pictures.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Test.h"
 
 using namespace kaart;
@@ -22,7 +23,7 @@ struct Table {
         PuzzleEvents events;
         events.Counter = [this](int turns) { seen << QStringLiteral("Counter %1").arg(turns); };
         events.Score = [this](int score, int) { reported = score; };
-        events.Finished = [this] { seen << QStringLiteral("Finished"); };
+        events.Finished = [this] { seen << "Finished"; };
         return events;
     }
     /// Deals as the seed says; the number of ticks that it took.
@@ -131,17 +132,11 @@ private:
 class PuzzleGameTest : public QObject {
     Q_OBJECT
 
+    using Room = Rows<QSize, QSize, QSize, QSize, QPointF>;
+
 private slots:
     void PiecesFillTheirRoomWithTheirTiles_data() {
-        QTest::addColumn<QSize>("picture");
-        QTest::addColumn<QSize>("room");
-        QTest::addColumn<QSize>("grid");
-        QTest::addColumn<QSize>("needed");
-        QTest::addColumn<QPointF>("lastPlace");
-        const auto row = [](const char* name, QSize picture, QSize room, QSize grid, QSize needed,
-                            QPointF last) {
-            QTest::newRow(name) << picture << room << grid << needed << last;
-        };
+        const Room row;
         row("upright", {440, 640}, {6600, 9600}, {3, 3}, {6608, 9600}, {4398.54, 6403.33});
         row("lying", {640, 440}, {9600, 6600}, {6, 4}, {9589, 6600}, {7979.70, 4951.25});
         row("square, by height", {50, 50}, {9600, 6600}, {5, 5}, {6600, 6600}, {5270, 5280});
@@ -149,11 +144,7 @@ private slots:
         row("strip", {640, 100}, {9600, 6600}, {3, 3}, {9625, 1525}, {6410, 1020});
     }
     void PiecesFillTheirRoomWithTheirTiles() {
-        QFETCH(QSize, picture);
-        QFETCH(QSize, room);
-        QFETCH(QSize, grid);
-        QFETCH(QSize, needed);
-        QFETCH(QPointF, lastPlace);
+        const auto [picture, room, grid, needed, lastPlace] = Room::now();
         std::mt19937 random(1);
         const QImage source = randomPicture(picture.width(), picture.height(), random);
         QSize resized;
@@ -179,21 +170,15 @@ private slots:
         }
     }
 
-    void TheOpeningScoreFollowsGridAndLevel_data() {
-        QTest::addColumn<int>("level");
-        QTest::addColumn<int>("score");
-        QTest::newRow("easy") << 0 << 400;
-        QTest::newRow("standard") << 1 << 945;
-        QTest::newRow("hard") << 2 << 990;
-    }
     void TheOpeningScoreFollowsGridAndLevel() {
-        QFETCH(int, level);
-        Table table(level, 3, 3);
-        table.game.Start(600, 600, false);
-        QTEST(table.game.state().Score, "score");
-        QCOMPARE(table.game.tmrShuffle().Interval, 3000);
-        table.game.tickShuffle();
-        QCOMPARE(table.game.tmrShuffle().Interval, 164);
+        for (const auto& [level, score] : {std::pair(0, 400), {1, 945}, {2, 990}}) {
+            Table table(level, 3, 3);
+            table.game.Start(600, 600, false);
+            QCOMPARE(table.game.state().Score, score);
+            QCOMPARE(table.game.tmrShuffle().Interval, 3000);
+            table.game.tickShuffle();
+            QCOMPARE(table.game.tmrShuffle().Interval, 164);
+        }
     }
 
     void ThousandsOfGamesKeepTheRules() {
@@ -254,9 +239,9 @@ private slots:
     }
 
     void TimeIsWrittenInThreeGroups() {
-        QCOMPARE(gameTime(60), QStringLiteral("00:01:00"));
-        QCOMPARE(gameTime(3661), QStringLiteral("01:01:01"));
-        QCOMPARE(gameTime(360000), QStringLiteral("100:00:00"));
+        QCOMPARE(gameTime(60), "00:01:00");
+        QCOMPARE(gameTime(3661), "01:01:01");
+        QCOMPARE(gameTime(360000), "100:00:00");
     }
 };
 

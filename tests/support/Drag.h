@@ -4,13 +4,18 @@
 #include <QMouseEvent>
 #include <QtTest>
 
-/// Drags with the left mouse button, by way of some points. (QTest's own moves carry no button.)
+/// Moves over a widget with the left button held. (QTest's own moves carry no button.)
+inline void moveHeld(QWidget& widget, QPoint to) {
+    QMouseEvent move(QEvent::MouseMove, to, widget.mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
+                     {});
+    QApplication::sendEvent(&widget, &move);
+}
+
+/// Drags with the left mouse button, by way of some points.
 inline void drag(QWidget& widget, QPoint from, QPoint to, const QList<QPoint>& by = {}) {
     QTest::mousePress(&widget, Qt::LeftButton, {}, from);
     for (const QPoint at : by + QList{to}) {
-        QMouseEvent move(QEvent::MouseMove, at, widget.mapToGlobal(at), Qt::NoButton,
-                         Qt::LeftButton, {});
-        QApplication::sendEvent(&widget, &move);
+        moveHeld(widget, at);
     }
     QTest::mouseRelease(&widget, Qt::LeftButton, {}, to);
 }

@@ -1,4 +1,4 @@
-#include "tests/support/LiteralColour.h"
+#include "tests/support/LiteralFilters.h"
 
 #include "tests/support/PixelArrays.h"
 

@@ -1,8 +1,5 @@
 #include "tests/support/LiteralFilters.h"
 
-#include "tests/support/LiteralColour.h"
-#include "tests/support/LiteralInPlace.h"
-#include "tests/support/LiteralPaint.h"
 #include "tests/support/PixelArrays.h"
 
 #include <algorithm>
@@ -15,10 +12,9 @@ namespace kaart {
 namespace {
 
 /// `value(S, c, x, y)` for every channel of every pixel that has neighbours on all sides.
-template <typename Value>
-void eachInner(PixelSpan PixelBuf, ConstPixelSpan SourceBuf, const Value& value) {
+template <typename Source, typename Value>
+void eachInner(PixelSpan PixelBuf, const Source& S, const Value& value) {
     const PixelArray P(PixelBuf);
-    const ConstPixelArray S(SourceBuf);
     for (int y = 2; y <= S.H - 1; ++y) {
         for (int x = 2; x <= S.W - 1; ++x) {
             for (int c = 1; c <= 3; ++c) {
@@ -28,13 +24,51 @@ void eachInner(PixelSpan PixelBuf, ConstPixelSpan SourceBuf, const Value& value)
     }
 }
 
+template <typename Value>
+void eachInner(PixelSpan PixelBuf, ConstPixelSpan SourceBuf, const Value& value) {
+    eachInner(PixelBuf, ConstPixelArray(SourceBuf), value);
+}
+
+/// Reads what it has written.
+template <typename Value>
+void eachInPlace(PixelSpan PixelBuf, const Value& value) {
+    eachInner(PixelBuf, PixelArray(PixelBuf), value);
+}
+
+template <typename Source>
+int S8(const Source& P, int c, int x, int y) {
+    return P(c, x - 1, y - 1) + P(c, x, y - 1) + P(c, x + 1, y - 1) + P(c, x - 1, y) +
+           P(c, x + 1, y) + P(c, x - 1, y + 1) + P(c, x, y + 1) + P(c, x + 1, y + 1);
+}
+
+void literalSharpen(PixelSpan PixelBuf, ConstPixelSpan, std::int32_t p) {
+    eachInPlace(PixelBuf, [p](const PixelArray& P, int c, int x, int y) {
+        return (P(c, x, y) * (p + 24) - 2 * S8(P, c, x, y)) / (p + 8);
+    });
+}
+
+void literalEdge(PixelSpan PixelBuf, ConstPixelSpan, std::int32_t p) {
+    eachInPlace(PixelBuf, [p](const PixelArray& P, int c, int x, int y) {
+        return (P(c, x, y) * (p + 9) - S8(P, c, x, y)) / (p + 1);
+    });
+}
+
+void literalBlur(PixelSpan PixelBuf, ConstPixelSpan, std::int32_t) {
+    eachInPlace(PixelBuf,
+                [](const PixelArray& P, int c, int x, int y) { return S8(P, c, x, y) / 8; });
+}
+
+void literalSmooth(PixelSpan PixelBuf, ConstPixelSpan, std::int32_t) {
+    eachInPlace(PixelBuf, [](const PixelArray& P, int c, int x, int y) {
+        return (P(c, x - 1, y) + P(c, x, y) + P(c, x, y - 1) + P(c, x, y + 1) + P(c, x + 1, y)) / 5;
+    });
+}
+
 int leastOf(const ConstPixelArray& S, int c, int x, int y) {
     int least = 255;
     for (int yy = y - 1; yy <= y + 1; ++yy) {
         for (int xx = x - 1; xx <= x + 1; ++xx) {
-            if (S(c, xx, yy) < least) {
-                least = S(c, xx, yy);
-            }
+            least = std::min<int>(least, S(c, xx, yy));
         }
     }
     return least;
@@ -53,9 +87,7 @@ void literalConnection(PixelSpan PixelBuf, ConstPixelSpan SourceBuf, std::int32_
 void literalContour(PixelSpan PixelBuf, ConstPixelSpan SourceBuf, std::int32_t k) {
     const std::array<int, 4> parts = {0, k >> 16 & 255, k >> 8 & 255, k & 255};
     eachInner(PixelBuf, SourceBuf, [&](const ConstPixelArray& P, int c, int x, int y) {
-        const int S8 = P(c, x - 1, y - 1) + P(c, x, y - 1) + P(c, x + 1, y - 1) + P(c, x - 1, y) +
-                       P(c, x + 1, y) + P(c, x - 1, y + 1) + P(c, x, y + 1) + P(c, x + 1, y + 1);
-        return 8 * P(c, x, y) - S8 + parts[static_cast<std::size_t>(c)];
+        return 8 * P(c, x, y) - S8(P, c, x, y) + parts[static_cast<std::size_t>(c)];
     });
 }
 

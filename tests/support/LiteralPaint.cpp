@@ -1,4 +1,4 @@
-#include "tests/support/LiteralPaint.h"
+#include "tests/support/LiteralFilters.h"
 
 #include "design/surface/Random.h"
 #include "tests/support/PixelArrays.h"
@@ -18,18 +18,8 @@ struct Share {
     int dx;
     int weight;
 };
-constexpr std::array<Share, 12> shares = {{{1, 1, 8},
-                                           {1, 2, 4},
-                                           {2, -2, 2},
-                                           {2, -1, 4},
-                                           {2, 0, 8},
-                                           {2, 1, 4},
-                                           {2, 2, 2},
-                                           {3, -2, 1},
-                                           {3, -1, 2},
-                                           {3, 0, 4},
-                                           {3, 1, 2},
-                                           {3, 2, 1}}};
+constexpr Share shares[] = {{1, 1, 8}, {1, 2, 4},  {2, -2, 2}, {2, -1, 4}, {2, 0, 8}, {2, 1, 4},
+                            {2, 2, 2}, {3, -2, 1}, {3, -1, 2}, {3, 0, 4},  {3, 1, 2}, {3, 2, 1}};
 
 using ErrorRow = std::vector<std::int32_t>;
 

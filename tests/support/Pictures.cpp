@@ -66,6 +66,18 @@ QImage randomPicture(int width, int height, std::mt19937& random, int colours) {
     return picture;
 }
 
+QRect inkOf(const QImage& picture) {
+    QRect ink;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (toColorRef(picture.pixel(x, y)) != white) {
+                ink |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return ink;
+}
+
 void comparePictures(const QImage& got, const QImage& expected) {
     QCOMPARE(got.size(), expected.size());
     for (int y = 0; y < got.height(); ++y) {

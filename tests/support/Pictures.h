@@ -21,5 +21,11 @@ QImage pictureOf(const QStringList& rows);
 /// A picture of random colours; with `colours` above 0 only of so many.
 QImage randomPicture(int width, int height, std::mt19937& random, int colours = 0);
 
+/// The smallest rectangle round all that isn't white.
+QRect inkOf(const QImage& picture);
+inline QRect inkOf(const kaart::PixelSurface& surface) {
+    return inkOf(surface.Image());
+}
+
 /// Compares two pictures; the failure names the first wrong pixel.
 void comparePictures(const QImage& got, const QImage& expected);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QObject>
 #include <QtTest>
+#include <QtWidgets>
 
 /// Makes a test class known to its room's runner, which is generated from the file names: a file
 /// XTest.cpp holds a class XTest, closes with KAART_TEST(XTest) and includes "XTest.moc".

@@ -6,7 +6,7 @@ using namespace kaart;
 
 namespace {
 
-const ProgramFolders nowhere{QStringLiteral("/nonexistent"), QStringLiteral("/nonexistent")};
+const ProgramFolders nowhere{"/nonexistent", "/nonexistent"};
 
 void drawDot(PixelSurface& pic) {
     pic.PSet(3, 3, black);
@@ -52,7 +52,7 @@ private slots:
         Design design(nowhere);
         design.change(drawDot);
         design.takeUndo();
-        design.OntwerpNaam = QStringLiteral("Feest");
+        design.OntwerpNaam = "Feest";
         design.FileNew();
         QCOMPARE(design.Pic().Point(3, 3), white);
         QCOMPARE(design.OntwerpNaam, QString());
@@ -66,10 +66,10 @@ private slots:
         design.Gewijzigd = true;
         QImage picture(440, 640, QImage::Format_RGB32);
         picture.fill(Qt::red);
-        design.open(picture, QStringLiteral("Rood"));
+        design.open(picture, "Rood");
         comparePictures(design.Pic().Image(), picture);
         comparePictures(design.UndoPic().Image(), picture);
-        QCOMPARE(design.OntwerpNaam, QStringLiteral("Rood"));
+        QCOMPARE(design.OntwerpNaam, "Rood");
         QVERIFY(!design.Gewijzigd);
     }
 
@@ -88,14 +88,14 @@ private slots:
         design.open(QImage(440, 640, QImage::Format_RGB32), QString());
         QSignalSpy turned(&design, &Design::orientationChanged);
         design.ZetRichting(2);
-        QCOMPARE(design.OntwerpRichting, QStringLiteral("Liggend"));
+        QCOMPARE(design.OntwerpRichting, "Liggend");
         QCOMPARE(design.Pic().Image().size(), QSize(640, 440));
         QCOMPARE(design.UndoPic().Image().size(), QSize(640, 440));
         QCOMPARE(turned.size(), 1);
         design.EditUndo();
         QCOMPARE(design.Pic().Point(10, 10), white);
         design.ZetRichting(1);
-        QCOMPARE(design.OntwerpRichting, QStringLiteral("Staand"));
+        QCOMPARE(design.OntwerpRichting, "Staand");
         QCOMPARE(design.Pic().Image().size(), QSize(440, 640));
     }
 };

@@ -1,10 +1,8 @@
 #include "design/session/Algemeen.h"
 #include "design/session/ProgramFolders.h"
 #include "design/session/SettingsFile.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Test.h"
-
-#include <QDir>
-#include <QTemporaryDir>
 
 using namespace kaart;
 
@@ -27,6 +25,8 @@ QByteArray read(const QString& path) {
 class SettingsTest : public QObject {
     Q_OBJECT
 
+    using Damage = Rows<QByteArray, bool>;
+
 private slots:
     void TheFileHasItsThreeRecords() {
         const QTemporaryDir folder;
@@ -43,21 +43,19 @@ private slots:
     }
 
     void DamagedFilesGiveNoMargins_data() {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<bool>("good");
-        QTest::newRow("empty") << QByteArray() << false;
-        QTest::newRow("two records") << QByteArray("\"a\"\r\n\"b\"\r\n") << false;
-        QTest::newRow("three numbers") << QByteArray("\"a\"\r\n\"b\"\r\n1,2,3\r\n") << false;
-        QTest::newRow("five numbers") << QByteArray("\"a\"\r\n\"b\"\r\n1,2,3,4,5\r\n") << false;
-        QTest::newRow("a word") << QByteArray("\"a\"\r\n\"b\"\r\n1,2,drie,4\r\n") << false;
-        QTest::newRow("no number") << QByteArray("\"a\"\r\n\"b\"\r\n1,2,nan,inf\r\n") << false;
-        QTest::newRow("odd bytes") << QByteArray("\x81\xff\0\n\n\x90,,,\n", 10) << false;
-        QTest::newRow("other makers, LF only") << QByteArray("x\ny\n1, 2 ,3,4") << true;
-        QTest::newRow("more records") << QByteArray("x\r\ny\r\n1,2,3,4\r\nz\r\n") << true;
+        const Damage row;
+        row("empty", "", false);
+        row("two records", "\"a\"\r\n\"b\"\r\n", false);
+        row("three numbers", "\"a\"\r\n\"b\"\r\n1,2,3\r\n", false);
+        row("five numbers", "\"a\"\r\n\"b\"\r\n1,2,3,4,5\r\n", false);
+        row("a word", "\"a\"\r\n\"b\"\r\n1,2,drie,4\r\n", false);
+        row("no number", "\"a\"\r\n\"b\"\r\n1,2,nan,inf\r\n", false);
+        row("odd bytes", QByteArray("\x81\xff\0\n\n\x90,,,\n", 10), false);
+        row("other makers, LF only", "x\ny\n1, 2 ,3,4", true);
+        row("more records", "x\r\ny\r\n1,2,3,4\r\nz\r\n", true);
     }
     void DamagedFilesGiveNoMargins() {
-        QFETCH(QByteArray, bytes);
-        QFETCH(bool, good);
+        const auto [bytes, good] = Damage::now();
         const QTemporaryDir folder;
         write(folder.filePath("Kaartwerkje.ini"), bytes);
         QCOMPARE(readSettings(folder.filePath("Kaartwerkje.ini")).has_value(), good);
@@ -106,8 +104,8 @@ private slots:
     }
 
     void HexadecimalColoursHaveSixDigits() {
-        QCOMPARE(HexKleur("60", "60", "60"), QStringLiteral("3C3C3C"));
-        QCOMPARE(HexKleur("", "10", "255"), QStringLiteral("000AFF"));
+        QCOMPARE(HexKleur("60", "60", "60"), "3C3C3C");
+        QCOMPARE(HexKleur("", "10", "255"), "000AFF");
     }
 };
 

@@ -1,5 +1,6 @@
 #include "design/surface/PixelSurface.h"
 #include "tests/support/Pictures.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Test.h"
 
 #include <cmath>
@@ -34,14 +35,11 @@ QPoint randomPoint(std::mt19937& random, int low, int high) {
 class DrawingTest : public QObject {
     Q_OBJECT
 
+    using Line = Rows<QPoint, QPoint, QStringList>;
+
 private slots:
     void ThinLinesLeaveOutTheirEnd_data() {
-        QTest::addColumn<QPoint>("from");
-        QTest::addColumn<QPoint>("to");
-        QTest::addColumn<QStringList>("picture");
-        const auto row = [](const char* name, QPoint from, QPoint to, const QStringList& picture) {
-            QTest::newRow(name) << from << to << picture;
-        };
+        const Line row;
         row("right", {0, 0}, {4, 0}, {"11110", "00000", "00000"});
         row("left", {4, 0}, {0, 0}, {"01111", "00000", "00000"});
         row("down", {2, 0}, {2, 2}, {"00100", "00100", "00000"});
@@ -54,9 +52,7 @@ private slots:
         row("from outside", {-2, 1}, {3, 1}, {"00000", "11100", "00000"});
     }
     void ThinLinesLeaveOutTheirEnd() {
-        QFETCH(QPoint, from);
-        QFETCH(QPoint, to);
-        QFETCH(QStringList, picture);
+        const auto [from, to, picture] = Line::now();
         PixelSurface surface(5, 3);
         surface.Line(from.x(), from.y(), to.x(), to.y(), ink);
         QCOMPARE(spell(surface), picture);

@@ -2,11 +2,9 @@
 #include "design/surface/TextFile.h"
 #include "design/surface/WholeFile.h"
 #include "tests/support/Pictures.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Test.h"
 
-#include <QBuffer>
-#include <QImageWriter>
-#include <QTemporaryDir>
 #include <QtEndian>
 
 #include <sys/stat.h>
@@ -15,16 +13,15 @@ using namespace kaart;
 
 namespace {
 
-QByteArray little(quint32 value, int bytes) {
-    QByteArray result(4, '\0');
-    qToLittleEndian(value, result.data());
-    return result.left(bytes);
+QByteArray little(qint64 value, int bytes) {
+    const qint64 turned = qToLittleEndian(value);
+    return QByteArray(reinterpret_cast<const char*>(&turned), bytes);
 }
 
-QByteArray big(quint32 value, int bytes) {
-    QByteArray result(4, '\0');
-    qToBigEndian(value, result.data());
-    return result.right(bytes);
+QByteArray big(qint64 value, int bytes) {
+    QByteArray result = little(value, bytes);
+    std::reverse(result.begin(), result.end());
+    return result;
 }
 
 QByteArray hex(const char* digits) {
@@ -36,16 +33,14 @@ QByteArray with(QByteArray bytes, qsizetype at, const QByteArray& patch) {
 }
 
 // A BMP whose `table` (masks, palette, a longer header) stands between header and rows.
-QByteArray bmp(int width, int height, int bits, quint32 compression, const QByteArray& table,
-               const QByteArray& rows, quint32 headerBytes = 40) {
-    const auto start = static_cast<quint32>(54 + table.size());
-    return "BM" + little(start + static_cast<quint32>(rows.size()), 4) + little(0, 4) +
-           little(start, 4) + little(headerBytes, 4) + little(static_cast<quint32>(width), 4) +
-           little(static_cast<quint32>(height), 4) + little(1, 2) +
-           little(static_cast<quint32>(bits), 2) + little(compression, 4) + little(0, 4) +
-           little(11'811, 4) + little(11'811, 4) +
-           little(headerBytes == 40 ? static_cast<quint32>(table.size() / 4) : 0, 4) +
-           little(0, 4) + table + rows;
+QByteArray bmp(int width, int height, int bits, int compression, const QByteArray& table,
+               const QByteArray& rows, int headerBytes = 40) {
+    const auto start = 54 + table.size();
+    return "BM" + little(start + rows.size(), 4) + little(0, 4) + little(start, 4) +
+           little(headerBytes, 4) + little(width, 4) + little(height, 4) + little(1, 2) +
+           little(bits, 2) + little(compression, 4) + little(0, 4) + little(11'811, 4) +
+           little(11'811, 4) + little(headerBytes == 40 ? table.size() / 4 : 0, 4) + little(0, 4) +
+           table + rows;
 }
 
 // A GIF of the colours white, black, red and (transparent) green, one digit a pixel. Codes stay
@@ -57,11 +52,9 @@ QByteArray gif(int width, int height, const QByteArray& digits) {
         codes += hex("80") + static_cast<char>(digit - '0');
     }
     codes += '\x81';
-    const QByteArray size =
-        little(static_cast<quint32>(width), 2) + little(static_cast<quint32>(height), 2);
+    const QByteArray size = little(width, 2) + little(height, 2);
     return "GIF89a" + size + hex("e60000") + colours + hex("21f9040100000300") + "," +
-           little(0, 4) + size + hex("0007") + little(static_cast<quint32>(codes.size()), 1) +
-           codes + hex("003b");
+           little(0, 4) + size + hex("0007") + little(codes.size(), 1) + codes + hex("003b");
 }
 
 QByteArray encoded(const QImage& picture, const char* format, bool progressive = false) {
@@ -74,7 +67,7 @@ QByteArray encoded(const QImage& picture, const char* format, bool progressive =
 
 // Left half red, right half blue.
 QImage halves() {
-    return pictureOf({QStringLiteral("24")}).scaled(32, 16);
+    return pictureOf({"24"}).scaled(32, 16);
 }
 
 QByteArray jpeg(bool progressive = false) {
@@ -84,13 +77,13 @@ QByteArray jpeg(bool progressive = false) {
 const char palette[] = "ffffff00 00000000 0000ff00";
 
 QByteArray segment(char marker, const QByteArray& content) {
-    return '\xFF' + (marker + big(static_cast<quint32>(content.size() + 2), 2)) + content;
+    return '\xFF' + (marker + big(content.size() + 2, 2)) + content;
 }
 
 QByteArray turnedJpeg(int orientation) {
     const QByteArray exif =
         QByteArray("Exif\0\0II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01\0\0\0", 24) +
-        little(static_cast<quint32>(orientation), 4) + little(0, 4);
+        little(orientation, 4) + little(0, 4);
     return jpeg().insert(2, segment('\xE1', exif));
 }
 
@@ -113,7 +106,7 @@ class PictureGateTest : public QObject {
     }
 
     // Every file is a "bmp" by its name.
-    QString path() const { return folder_.filePath(QStringLiteral("plaat@2x.bmp")); }
+    QString path() const { return folder_.filePath("plaat@2x.bmp"); }
 
     std::optional<QImage> load(const QByteArray& bytes) const {
         QFile file(path());
@@ -126,13 +119,15 @@ class PictureGateTest : public QObject {
 
     QTemporaryDir folder_;
 
+    using Kind = Rows<QByteArray>;
+    using Turning = Rows<int, QSize, QPoint>;
+    using Box = Rows<QByteArray, QSize, QSize>;
+
 private slots:
-    void initTestCase() {
-        QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio*=false"));
-    }
+    void initTestCase() { QLoggingCategory::setFilterRules("qt.gui.imageio*=false"); }
 
     void SavedBmpHasTheseBytes() {
-        QVERIFY(SavePicture(pictureOf({QStringLiteral("20"), QStringLiteral("41")}), path()));
+        QVERIFY(SavePicture(pictureOf({"20", "41"}), path()));
         const QByteArray expected = hex(
             "424d 46000000 00000000 36000000 28000000 02000000 02000000 0100 1800 00000000 10000000"
             "c40e0000 c40e0000 00000000 00000000 ff0000 000000 0000 0000ff ffffff 0000");
@@ -150,39 +145,36 @@ private slots:
     }
 
     void ReadsEveryKindOfFile_data() {
-        QTest::addColumn<QByteArray>("bytes");
+        const Kind row;
         const QByteArray rows24 = hex("000000 ffffff 0000 0000ff 000000 0000");
         const QByteArray topDown = rows24.mid(8) + rows24.left(8);
         const QByteArray rows32 = hex("00000000 ffffff00 0000ff00 00000000");
-        QTest::newRow("bmp 24") << bmp(2, 2, 24, 0, {}, rows24);
-        QTest::newRow("bmp top-down") << bmp(2, -2, 24, 0, {}, topDown);
-        QTest::newRow("bmp 4") << bmp(2, 2, 4, 0, hex(palette), hex("10000000 21000000"));
-        QTest::newRow("bmp 8") << bmp(2, 2, 8, 0, hex(palette), hex("01000000 02010000"));
-        QTest::newRow("bmp run-length 8")
-            << bmp(2, 2, 8, 1, hex(palette), hex("0101 0100 0000 0102 0101 0001"));
-        QTest::newRow("bmp 16") << bmp(2, 2, 16, 0, {}, hex("0000ff7f 007c0000"));
-        QTest::newRow("bmp 16 with green of 6 bits")
-            << bmp(2, 2, 16, 3, little(0xF800, 4) + little(0x07E0, 4) + little(0x1F, 4),
-                   hex("0000ffff 00f80000"));
-        QTest::newRow("bmp 32") << bmp(2, 2, 32, 0, {}, rows32);
-        QTest::newRow("bmp 32 of empty opacity")
-            << bmp(2, 2, 32, 3, hex("0000ff00 00ff0000 ff000000 000000ff") + QByteArray(52, '\0'),
-                   rows32, 108);
-        QTest::newRow("bmp of the old header")
-            << "BM" + little(42, 4) + little(0, 4) + little(26, 4) + little(12, 4) + little(2, 2) +
-                   little(2, 2) + little(1, 2) + little(24, 2) + rows24;
-        QTest::newRow("gif") << gif(2, 2, "2113");
-        QTest::newRow("gif of no canvas size") << with(gif(2, 2, "2113"), 6, little(0, 4));
-        QImage clear = pictureOf({QStringLiteral("21"), QStringLiteral("10")})
-                           .convertToFormat(QImage::Format_ARGB32);
+        row("bmp 24", bmp(2, 2, 24, 0, {}, rows24));
+        row("bmp top-down", bmp(2, -2, 24, 0, {}, topDown));
+        row("bmp 4", bmp(2, 2, 4, 0, hex(palette), hex("10000000 21000000")));
+        row("bmp 8", bmp(2, 2, 8, 0, hex(palette), hex("01000000 02010000")));
+        row("bmp run-length 8",
+            bmp(2, 2, 8, 1, hex(palette), hex("0101 0100 0000 0102 0101 0001")));
+        row("bmp 16", bmp(2, 2, 16, 0, {}, hex("0000ff7f 007c0000")));
+        row("bmp 16 with green of 6 bits",
+            bmp(2, 2, 16, 3, hex("00f80000 e0070000 1f000000"), hex("0000ffff 00f80000")));
+        row("bmp 32", bmp(2, 2, 32, 0, {}, rows32));
+        row("bmp 32 of empty opacity",
+            bmp(2, 2, 32, 3, hex("0000ff00 00ff0000 ff000000 000000ff") + QByteArray(52, '\0'),
+                rows32, 108));
+        row("bmp of the old header",
+            "BM" + hex("2a000000 00000000 1a000000 0c000000 0200 0200 0100 1800") + rows24);
+        row("gif", gif(2, 2, "2113"));
+        row("gif of no canvas size", with(gif(2, 2, "2113"), 6, little(0, 4)));
+        QImage clear = pictureOf({"21", "10"}).convertToFormat(QImage::Format_ARGB32);
         clear.setPixel(1, 1, 0x00FF0000);
-        QTest::newRow("png") << encoded(clear, "png");
+        row("png", encoded(clear, "png"));
     }
     void ReadsEveryKindOfFile() {
-        QFETCH(QByteArray, bytes);
+        const auto [bytes] = Kind::now();
         const auto picture = load(bytes);
         QVERIFY(picture);
-        QCOMPARE(spell(*picture).join(QLatin1Char(',')), QStringLiteral("21,10"));
+        QCOMPARE(spell(*picture).join(','), "21,10");
         QCOMPARE(pictureSize(path()), QSize(2, 2));
         QCOMPARE(picture->dotsPerMeterX(), 3780);
     }
@@ -227,38 +219,35 @@ private slots:
     }
 
     void RefusesWhatNoPictureCanBe_data() {
-        QTest::addColumn<QByteArray>("bytes");
+        const Kind row;
         const QByteArray png = encoded(halves(), "png");
         const QByteArray huge = big(10'000, 4);
         const qsizetype frame = jpeg().indexOf("\xFF\xC0") + 5;
-        QTest::newRow("empty") << QByteArray();
-        QTest::newRow("text") << QByteArray("BM is geen plaatje");
-        QTest::newRow("bmp too wide") << bmp(32'768, 1, 1, 0, {}, QByteArray(5'000, '\0'));
-        QTest::newRow("bmp of no rows") << bmp(2, 0, 24, 0, {}, {});
-        QTest::newRow("bmp lowest height")
-            << bmp(1, std::numeric_limits<int>::min(), 24, 0, {}, {});
-        QTest::newRow("bmp huge") << bmp(10'000, 10'000, 24, 0, {}, QByteArray(99, '\0'));
-        QTest::newRow("bmp rows in header")
-            << with(bmp(2, 2, 24, 0, {}, QByteArray(99, '\0')), 10, little(0, 4));
-        QTest::newRow("bmp runs without end") << bmp(2, 1, 8, 1, little(0, 4), "\2\0");
-        QTest::newRow("png huge") << with(png, 16, huge + huge);
-        QTest::newRow("png over 100 megapixels") << with(png, 16, huge + big(10'001, 4));
-        QTest::newRow("png chunk too long") << with(png, 33, big(0x7FFFFFFF, 4));
-        QTest::newRow("png of empty chunks")
-            << QByteArray(png).insert(33, (big(0, 4) + "teSt" + big(0, 4)).repeated(70'000));
-        QTest::newRow("jpeg huge") << with(jpeg(), frame, big(10'000, 2) + big(10'000, 2));
-        QTest::newRow("jpeg of no rows") << with(jpeg(), frame, big(0, 2));
-        QTest::newRow("jpeg of many markers")
-            << jpeg().insert(2, segment('\xFE', "xx").repeated(5'000));
-        QTest::newRow("jpeg of many scans") << manyScans(30);
-        QTest::newRow("gif too wide") << with(gif(1, 1, "2"), 6, little(40'000, 2));
-        QTest::newRow("gif frame too wide")
-            << with(gif(1, 1, "2"), 6 + 7 + 384 + 8 + 5, little(40'000, 2));
-        QTest::newRow("gif over 100 megapixels")
-            << with(gif(1, 1, "2"), 6, little(20'000, 2) + little(20'000, 2));
+        row("empty", QByteArray());
+        row("text", QByteArray("BM is geen plaatje"));
+        row("bmp too wide", bmp(32'768, 1, 1, 0, {}, QByteArray(5'000, '\0')));
+        row("bmp of no rows", bmp(2, 0, 24, 0, {}, {}));
+        row("bmp lowest height", bmp(1, std::numeric_limits<int>::min(), 24, 0, {}, {}));
+        row("bmp huge", bmp(10'000, 10'000, 24, 0, {}, QByteArray(99, '\0')));
+        row("bmp rows in header",
+            with(bmp(2, 2, 24, 0, {}, QByteArray(99, '\0')), 10, little(0, 4)));
+        row("bmp runs without end", bmp(2, 1, 8, 1, little(0, 4), "\2\0"));
+        row("png huge", with(png, 16, huge + huge));
+        row("png over 100 megapixels", with(png, 16, huge + big(10'001, 4)));
+        row("png chunk too long", with(png, 33, big(0x7FFFFFFF, 4)));
+        row("png of empty chunks",
+            QByteArray(png).insert(33, (big(0, 4) + "teSt" + big(0, 4)).repeated(70'000)));
+        row("jpeg huge", with(jpeg(), frame, big(10'000, 2) + big(10'000, 2)));
+        row("jpeg of no rows", with(jpeg(), frame, big(0, 2)));
+        row("jpeg of many markers", jpeg().insert(2, segment('\xFE', "xx").repeated(5'000)));
+        row("jpeg of many scans", manyScans(30));
+        row("gif too wide", with(gif(1, 1, "2"), 6, little(40'000, 2)));
+        row("gif frame too wide", with(gif(1, 1, "2"), 6 + 7 + 384 + 8 + 5, little(40'000, 2)));
+        row("gif over 100 megapixels",
+            with(gif(1, 1, "2"), 6, little(20'000, 2) + little(20'000, 2)));
     }
     void RefusesWhatNoPictureCanBe() {
-        QFETCH(QByteArray, bytes);
+        const auto [bytes] = Kind::now();
         QVERIFY(!load(bytes));
         QVERIFY(!pictureSize(path()));
         QVERIFY(!loadThumbnail(path(), {10, 10}));
@@ -266,8 +255,8 @@ private slots:
 
     void RefusesWhatIsNoFile() {
         QVERIFY(!LoadPicture(folder_.path()));
-        QVERIFY(!LoadPicture(folder_.filePath(QStringLiteral("geen.bmp"))));
-        const QString pipe = folder_.filePath(QStringLiteral("pijp.bmp"));
+        QVERIFY(!LoadPicture(folder_.filePath("geen.bmp")));
+        const QString pipe = folder_.filePath("pijp.bmp");
         QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
         QVERIFY(!LoadPicture(pipe));
         QVERIFY(load(bmp(2, 2, 24, 0, {}, QByteArray(16, '\0'))));
@@ -276,19 +265,15 @@ private slots:
     }
 
     void TurnedPhotosComeUpright_data() {
-        QTest::addColumn<int>("orientation");
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<QPoint>("red");
-        QTest::newRow("upright") << 1 << QSize(32, 16) << QPoint(2, 8);
-        QTest::newRow("mirrored") << 2 << QSize(32, 16) << QPoint(30, 8);
-        QTest::newRow("quarter right") << 6 << QSize(16, 32) << QPoint(8, 2);
-        QTest::newRow("quarter left") << 8 << QSize(16, 32) << QPoint(8, 30);
-        QTest::newRow("nonsense") << 99 << QSize(32, 16) << QPoint(2, 8);
+        const Turning row;
+        row("upright", 1, {32, 16}, {2, 8});
+        row("mirrored", 2, {32, 16}, {30, 8});
+        row("quarter right", 6, {16, 32}, {8, 2});
+        row("quarter left", 8, {16, 32}, {8, 30});
+        row("nonsense", 99, {32, 16}, {2, 8});
     }
     void TurnedPhotosComeUpright() {
-        QFETCH(int, orientation);
-        QFETCH(QSize, size);
-        QFETCH(QPoint, red);
+        const auto [orientation, size, red] = Turning::now();
         const QPoint blue = QPoint(size.width(), size.height()) - red;
         const auto picture = load(turnedJpeg(orientation));
         QVERIFY(picture);
@@ -302,25 +287,20 @@ private slots:
     }
 
     void ThumbnailsFitTheBox_data() {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QSize>("box");
-        QTest::addColumn<QSize>("size");
-        QTest::newRow("jpeg") << jpeg() << QSize(10, 10) << QSize(10, 5);
-        QTest::newRow("jpeg as it is") << jpeg() << QSize(32, 99) << QSize(32, 16);
-        QTest::newRow("wide gif canvas")
-            << with(gif(2, 2, "2113"), 6, little(3'000, 2)) << QSize(30, 30) << QSize(30, 1);
-        QTest::newRow("png") << encoded(halves(), "png") << QSize(99, 4) << QSize(8, 4);
-        QTest::newRow("never enlarged") << gif(2, 2, "2113") << QSize(50, 50) << QSize(2, 2);
-        QTest::newRow("a line") << bmp(400, 1, 1, 0, {}, QByteArray(52, '\0')) << QSize(40, 40)
-                                << QSize(40, 1);
-        QTest::newRow("no box") << jpeg() << QSize(0, 10) << QSize(0, 0);
+        const Box row;
+        row("jpeg", jpeg(), {10, 10}, {10, 5});
+        row("jpeg as it is", jpeg(), {32, 99}, {32, 16});
+        row("wide gif canvas", with(gif(2, 2, "2113"), 6, little(3'000, 2)), {30, 30}, {30, 1});
+        row("png", encoded(halves(), "png"), {99, 4}, {8, 4});
+        row("never enlarged", gif(2, 2, "2113"), {50, 50}, {2, 2});
+        row("a line", bmp(400, 1, 1, 0, {}, QByteArray(52, '\0')), {40, 40}, {40, 1});
+        row("no box", jpeg(), {0, 10}, {0, 0});
     }
     void ThumbnailsFitTheBox() {
-        QFETCH(QByteArray, bytes);
-        QFETCH(QSize, box);
+        const auto [bytes, box, size] = Box::now();
         QVERIFY(load(bytes));
         const QImage thumbnail = loadThumbnail(path(), box).value_or(QImage());
-        QTEST(thumbnail.size(), "size");
+        QCOMPARE(thumbnail.size(), size);
         QVERIFY(thumbnail.isNull() || thumbnail.format() == QImage::Format_RGB32);
     }
 
@@ -337,7 +317,7 @@ private slots:
 
     void FailedSaveIsToldAndHarmsNothing() {
         QVERIFY(SavePicture(halves(), path()));
-        for (const QString& bad : {path() + QStringLiteral("/onder.bmp"), folder_.path()}) {
+        for (const QString& bad : {path() + "/onder.bmp", folder_.path()}) {
             QVERIFY(!SavePicture(halves(), bad));
             QVERIFY(!saveJpeg(halves(), bad, 90));
         }

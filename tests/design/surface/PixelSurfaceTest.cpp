@@ -5,23 +5,6 @@
 
 using namespace kaart;
 
-namespace {
-
-/// The rectangle of all pixels that differ from white.
-QRect inkOf(const PixelSurface& surface) {
-    QRect ink;
-    for (int y = 0; y < surface.bounds().height(); ++y) {
-        for (int x = 0; x < surface.bounds().width(); ++x) {
-            if (surface.Point(x, y) != white) {
-                ink |= QRect(x, y, 1, 1);
-            }
-        }
-    }
-    return ink;
-}
-
-} // namespace
-
 class PixelSurfaceTest : public QObject {
     Q_OBJECT
 
@@ -91,7 +74,7 @@ private slots:
         surface.FontSize = 12;
         surface.CurrentX = 20;
         surface.CurrentY = 10;
-        const QString text = QStringLiteral("Hxg");
+        const QString text = "Hxg";
         surface.Print(text);
         const QRect ink = inkOf(surface);
         const int height = roundEven(surface.TextHeight(text));
@@ -112,25 +95,24 @@ private slots:
         PixelSurface surface(60, 30);
         surface.BackColor = colourOf('2');
         surface.FontTransparent = false;
-        surface.Print(QStringLiteral("i"));
+        surface.Print("i");
         QCOMPARE(surface.Point(0, 0), colourOf('2'));
         QCOMPARE(surface.Point(50, 0), white);
     }
 
     void SlopingTextTurnsCounterClockwiseAboutItsTopLeft() {
         PixelSurface surface(200, 200);
-        surface.SelectFont(SlopingFont{20, 900, 400, false, false, false, QStringLiteral("Arial")});
-        surface.CurrentX = 100;
-        surface.CurrentY = 150;
-        surface.Print(QStringLiteral("Omhoog"));
-        const QRect up = inkOf(surface);
+        const auto printed = [&surface](int turned, QPoint at) {
+            surface.Cls();
+            surface.SelectFont(SlopingFont{20, turned, 400, false, false, false, "Arial"});
+            surface.CurrentX = at.x();
+            surface.CurrentY = at.y();
+            surface.Print("Omhoog");
+            return inkOf(surface);
+        };
+        const QRect up = printed(900, {100, 150});
         QVERIFY(up.left() >= 100 && up.right() < 121 && up.bottom() <= 150 && up.top() > 60);
-        surface.Cls();
-        surface.SelectFont(SlopingFont{20, 0, 400, false, false, false, QStringLiteral("Arial")});
-        surface.CurrentX = 10;
-        surface.CurrentY = 10;
-        surface.Print(QStringLiteral("Omhoog"));
-        const QRect flat = inkOf(surface);
+        const QRect flat = printed(0, {10, 10});
         QVERIFY(qAbs(flat.width() - up.height()) <= 2 && qAbs(flat.height() - up.width()) <= 2);
         QCOMPARE(surface.TextHeight(QString()), 20.0);
     }

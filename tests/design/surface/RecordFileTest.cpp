@@ -1,9 +1,8 @@
 #include "design/surface/RecordFile.h"
 #include "design/surface/TextFile.h"
 #include "design/surface/WholeFile.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Test.h"
-
-#include <QTemporaryDir>
 
 using namespace kaart;
 
@@ -22,6 +21,8 @@ class RecordFileTest : public QObject {
         return told.join('|');
     }
 
+    using Lines = Rows<QByteArray, QString, QString>; // with the torn record dropped, and kept
+
 private slots:
     void WrittenFileHasTheseBytes() {
         QVERIFY(writeRecords(path(), {{" \tJan  é ", " b "}, {"Piet\r\nJr", "x\ny\rЖ"}}));
@@ -34,16 +35,9 @@ private slots:
     }
 
     void LinesGoByTheirPosition_data() {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("dropped");
-        QTest::addColumn<QString>("kept");
-        const auto row = [](const char* name, const QByteArray& bytes, const char* dropped,
-                            const char* kept) {
-            QTest::newRow(name) << bytes << QString::fromLatin1(dropped)
-                                << QString::fromLatin1(kept);
-        };
+        const Lines row;
         const auto same = [&row](const char* name, const QByteArray& bytes, const char* records) {
-            row(name, bytes, records, records);
+            row(name, bytes, QLatin1String(records), QLatin1String(records));
         };
         same("nothing", "", "");
         same("banner only", "x\r\n", "");
@@ -61,10 +55,10 @@ private slots:
         same("odd bytes", QByteArray("\0\r\n\xFF\r\n\x81\r\n\xFE\x1A\r\n", 11), "\x81,\xFE\x1A");
     }
     void LinesGoByTheirPosition() {
-        QFETCH(QByteArray, bytes);
+        const auto [bytes, dropped, kept] = Lines::now();
         QVERIFY(writeRecords(path(), {}) && writeWholeFile(path(), bytes));
-        QTEST(read(TornRecord::Dropped), "dropped");
-        QTEST(read(TornRecord::Kept), "kept");
+        QCOMPARE(read(TornRecord::Dropped), dropped);
+        QCOMPARE(read(TornRecord::Kept), kept);
     }
 
     void FileThatCannotBeReadHasNoRecords() {

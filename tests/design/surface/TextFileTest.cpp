@@ -1,9 +1,7 @@
 #include "design/surface/TextFile.h"
 #include "design/surface/WholeFile.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Test.h"
-
-#include <QFile>
-#include <QTemporaryDir>
 
 #include <csignal>
 #include <numeric>
@@ -29,25 +27,23 @@ rlim_t limitFileSize(rlim_t bytes) {
 class TextFileTest : public QObject {
     Q_OBJECT
 
-    QString path() const { return folder_.filePath(QStringLiteral("tekst.txt")); }
+    QString path() const { return folder_.filePath("tekst.txt"); }
 
     QTemporaryDir folder_;
 
+    using Letters = Rows<QByteArray, QString>;
+    using Ends = Rows<QString, QStringList>;
+
 private slots:
     void LettersAndBytesBelongTogether_data() {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("plain") << QByteArray("Kom je ook?") << QStringLiteral("Kom je ook?");
-        QTest::newRow("latin") << QByteArray("\xE9\xEB\xD6\xA0\xFF")
-                               << QStringLiteral("éëÖ\u00A0ÿ");
-        QTest::newRow("special") << QByteArray("\x80 5 \x93x\x94 \x97 \x9F\x8A")
-                                 << QStringLiteral("€ 5 “x” — ŸŠ");
-        QTest::newRow("unassigned") << QByteArray("\x81\x8D\x8F\x90\x9D")
-                                    << QStringLiteral("\u0081\u008D\u008F\u0090\u009D");
+        const Letters row;
+        row("plain", "Kom je ook?", "Kom je ook?");
+        row("latin", "\xE9\xEB\xD6\xA0\xFF", "éëÖ\u00A0ÿ");
+        row("special", "\x80 5 \x93x\x94 \x97 \x9F\x8A", "€ 5 “x” — ŸŠ");
+        row("unassigned", "\x81\x8D\x8F\x90\x9D", "\u0081\u008D\u008F\u0090\u009D");
     }
     void LettersAndBytesBelongTogether() {
-        QFETCH(QByteArray, bytes);
-        QFETCH(QString, text);
+        const auto [bytes, text] = Letters::now();
         QCOMPARE(fromWindows1252(bytes), text);
         QCOMPARE(toWindows1252(text), bytes);
     }
@@ -59,32 +55,29 @@ private slots:
     }
 
     void ForeignLettersBecomeOneQuestionMark() {
-        QCOMPARE(toWindows1252(QStringLiteral("aЖb")), QByteArray("a?b"));
-        QCOMPARE(toWindows1252(QStringLiteral("a😀b")), QByteArray("a?b"));
+        QCOMPARE(toWindows1252("aЖb"), QByteArray("a?b"));
+        QCOMPARE(toWindows1252("a😀b"), QByteArray("a?b"));
         QCOMPARE(toWindows1252(QString(QChar(0xD83D)) + QLatin1Char('b')), QByteArray("?b"));
-        QCOMPARE(toWindows1252(QStringLiteral("\u0080\u0099")), QByteArray("??"));
+        QCOMPARE(toWindows1252("\u0080\u0099"), QByteArray("??"));
     }
 
     void LinesEndInEveryWay_data() {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QStringList>("lines");
-        const QString a = QStringLiteral("a");
-        const QString b = QStringLiteral("b");
-        QTest::newRow("nothing") << QString() << QStringList();
-        QTest::newRow("three ends") << QStringLiteral("a\r\nb\na\rb") << QStringList{a, b, a, b};
-        QTest::newRow("last end") << QStringLiteral("a\r\n") << QStringList{a};
-        QTest::newRow("empty lines") << QStringLiteral("\r\na\n\n") << QStringList{{}, a, {}};
-        QTest::newRow("two returns") << QStringLiteral("a\r\r\nb") << QStringList{a, {}, b};
+        const Ends row;
+        row("nothing", "", {});
+        row("three ends", "a\r\nb\na\rb", {"a", "b", "a", "b"});
+        row("last end", "a\r\n", QStringList{"a"});
+        row("empty lines", "\r\na\n\n", {"", "a", ""});
+        row("two returns", "a\r\r\nb", {"a", "", "b"});
     }
     void LinesEndInEveryWay() {
-        QFETCH(QString, text);
-        QTEST(splitLines(text), "lines");
+        const auto [text, lines] = Ends::now();
+        QCOMPARE(splitLines(text), lines);
     }
 
     void WrittenTextHasTheseBytes() {
-        QVERIFY(writeTextFile(path(), QStringLiteral("Één\r\nkaart")));
+        QVERIFY(writeTextFile(path(), "Één\r\nkaart"));
         QCOMPARE(readWholeFile(path(), 100), QByteArray("\xC9\xE9n\r\nkaart"));
-        QCOMPARE(readTextFile(path()), QStringLiteral("Één\r\nkaart"));
+        QCOMPARE(readTextFile(path()), "Één\r\nkaart");
     }
 
     void WhatCannotBeReadIsRefused() {
@@ -92,18 +85,18 @@ private slots:
         QVERIFY(readWholeFile(path(), 5));
         QVERIFY(!readWholeFile(path(), 4));
         QVERIFY(!readTextFile(folder_.path()));
-        QVERIFY(!readTextFile(folder_.filePath(QStringLiteral("geen"))));
-        QVERIFY(!readTextFile(QStringLiteral("/dev/zero")));
+        QVERIFY(!readTextFile(folder_.filePath("geen")));
+        QVERIFY(!readTextFile("/dev/zero"));
         QFile::resize(path(), (qint64{64} << 20) + 1);
         QVERIFY(!readTextFile(path()));
     }
 
     void FailedWriteSaysSo() {
-        const QString pipe = folder_.filePath(QStringLiteral("pijp"));
+        const QString pipe = folder_.filePath("pijp");
         QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
         QVERIFY(!writeWholeFile(pipe, QByteArray("nieuw")));
         QVERIFY(!writeWholeFile(folder_.path(), QByteArray("nieuw")));
-        QVERIFY(!writeWholeFile(folder_.filePath(QStringLiteral("geen/map")), QByteArray("nieuw")));
+        QVERIFY(!writeWholeFile(folder_.filePath("geen/map"), QByteArray("nieuw")));
     }
 
     void FullDiskLeavesTheOlderFile() {

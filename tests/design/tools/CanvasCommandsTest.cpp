@@ -23,8 +23,8 @@ private slots:
     }
 
     void TheScreenIsToldInDotsOf15Twips() {
-        const QString told = QStringLiteral("Schermresolutie... : %1 Dpi (Dots / Inch)\r\n"
-                                            "Schermgrootte..... : %2 x %3 Pixels\r\n---");
+        const QString told = "Schermresolutie... : %1 Dpi (Dots / Inch)\r\n"
+                             "Schermgrootte..... : %2 x %3 Pixels\r\n---";
         QVERIFY(screenInfo(96, {1920, 1080}).startsWith(told.arg(96).arg(1920).arg(1080)));
         QVERIFY(screenInfo(144, {1920, 1080}).startsWith(told.arg(144).arg(1280).arg(720)));
     }

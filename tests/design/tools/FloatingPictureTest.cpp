@@ -1,5 +1,6 @@
 #include "design/tools/FloatingPicture.h"
 #include "tests/support/Pictures.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Test.h"
 
 using namespace kaart;
@@ -33,7 +34,7 @@ struct Desk {
                              hint = text;
                              hintColour = colour;
                          });
-        handOver(design, pictureOf(picture), QStringLiteral("Beweeg"), true);
+        handOver(design, pictureOf(picture), "Beweeg", true);
     }
     Design design;
     QString hint;
@@ -46,11 +47,13 @@ struct Desk {
 class FloatingPictureTest : public QObject {
     Q_OBJECT
 
+    using Placing = Rows<int, QPoint, QStringList, QStringList>;
+
 private slots:
     void AHandedOverPictureReplacesTheOneAfloat() {
         Desk desk;
         QCOMPARE(desk.design.TekenModus, 50);
-        QCOMPARE(desk.hint, QStringLiteral("Beweeg"));
+        QCOMPARE(desk.hint, "Beweeg");
         QCOMPARE(desk.hintColour, RGB(170, 0, 0));
         QVERIFY(desk.design.ClipPic.Visible && !desk.design.Gewijzigd);
         grabFloat(desk.design, {2, 1});
@@ -68,41 +71,29 @@ private slots:
     }
 
     void PuttingDownEndsTheFloating_data() {
-        QTest::addColumn<int>("index");
-        QTest::addColumn<QPoint>("at");
-        QTest::addColumn<QStringList>("picture");
-        QTest::addColumn<QStringList>("expected");
-        const QPoint origin;
-        QTest::newRow("copy") << 3 << origin << piece
-                              << QStringList{red[0], "212032", "201202", "233122", red[4]};
-        QTest::newRow("and") << 4 << origin << piece
-                             << QStringList{red[0], "212212", "221222", "211122", red[4]};
-        QTest::newRow("without the colour at (2, 2)")
-            << 5 << origin << piece << QStringList{red[0], "222032", "202202", "233222", red[4]};
-        QTest::newRow("too small for a background")
-            << 5 << origin << QStringList{"01", "00", "33"}
-            << QStringList{red[0], "201222", "200222", "233222", red[4]};
-        QTest::newRow("cut off at the edges")
-            << 3 << QPoint(-3, -2) << piece
-            << QStringList{"202222", "122222", red[2], red[3], red[4]};
-        QTest::newRow("cut off without background")
-            << 5 << QPoint(-3, -2) << piece
-            << QStringList{"202222", red[1], red[2], red[3], red[4]};
-        QTest::newRow("beside the canvas") << 5 << QPoint(900, -90) << piece << red;
-        QTest::newRow("cancel") << 1 << origin << piece << red;
+        const Placing row;
+        row("copy", 3, {}, piece, {red[0], "212032", "201202", "233122", red[4]});
+        row("and", 4, {}, piece, {red[0], "212212", "221222", "211122", red[4]});
+        row("without the colour at (2, 2)", 5, {}, piece,
+            {red[0], "222032", "202202", "233222", red[4]});
+        row("too small for a background", 5, {}, {"01", "00", "33"},
+            {red[0], "201222", "200222", "233222", red[4]});
+        row("cut off at the edges", 3, {-3, -2}, piece,
+            {"202222", "122222", red[2], red[3], red[4]});
+        row("cut off without background", 5, {-3, -2}, piece,
+            {"202222", red[1], red[2], red[3], red[4]});
+        row("beside the canvas", 5, {900, -90}, piece, red);
+        row("cancel", 1, {}, piece, red);
     }
     void PuttingDownEndsTheFloating() {
-        QFETCH(int, index);
-        QFETCH(QPoint, at);
-        QFETCH(QStringList, picture);
-        QFETCH(QStringList, expected);
+        const auto [index, at, picture, expected] = Placing::now();
         Desk desk(picture);
         moveFloat(desk.design, at);
         Plak(desk.design, index, desk.rhythm);
         QCOMPARE(corner(desk.design.Pic()), expected);
         QCOMPARE(corner(desk.design.UndoPic()), red);
         QVERIFY(desk.design.Gewijzigd && !desk.design.ClipPic.Visible);
-        QCOMPARE(desk.hint, QStringLiteral("Informatie..."));
+        QCOMPARE(desk.hint, "Informatie...");
         QCOMPARE(desk.design.TekenModus, 50);
     }
 
@@ -114,7 +105,7 @@ private slots:
         QCOMPARE(spell(desk.design.ClipPic), QStringList({"2133", "0210", "3021"}));
         QVERIFY(desk.design.ClipPic.Visible && desk.design.Gewijzigd);
         QCOMPARE(corner(desk.design.UndoPic()), red);
-        QCOMPARE(desk.hint, QStringLiteral("Beweeg"));
+        QCOMPARE(desk.hint, "Beweeg");
     }
 
     void RowsAppearOneAfterAnotherWhateverHappensBetween() {

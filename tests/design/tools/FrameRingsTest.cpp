@@ -2,6 +2,7 @@
 
 #include "design/surface/GraphicsCalls.h"
 #include "tests/support/Pictures.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Test.h"
 
 using namespace kaart;
@@ -9,28 +10,22 @@ using namespace kaart;
 class FrameRingsTest : public QObject {
     Q_OBJECT
 
+    using Ring = Rows<QString, QRect, QStringList>; // the colours of the row y = 1, from x = 6
+
 private slots:
     void RingsFollowTheSecondRowFromOutsideToInside_data() {
-        QTest::addColumn<QString>("colours"); // of the row y = 1, from x = 6
-        QTest::addColumn<QRect>("box");
-        QTest::addColumn<QStringList>("expected");
-        QTest::newRow("the first one pixel outside")
-            << "1" << QRect(QPoint(2, 2), QPoint(3, 3))
-            << QStringList{"000000", "011110", "010010", "010010", "011110", "000000"};
-        QTest::newRow("a gap lets the ground through")
-            << "501" << QRect(QPoint(1, 1), QPoint(4, 4))
-            << QStringList{"555555", "500005", "501105", "501105", "500005", "555555"};
-        QTest::newRow("past the middle they grow again")
-            << "0015" << QRect(QPoint(2, 2), QPoint(3, 3))
-            << QStringList{"000000", "055550", "051150", "051150", "055550", "000000"};
-        QTest::newRow("the edge runs off")
-            << "51" << QRect(QPoint(0, 0), QPoint(6, 6))
-            << QStringList{"111111", "100000", "100000", "100000", "100000", "100000"};
+        const Ring row;
+        row("the first one pixel outside", "1", {2, 2, 2, 2},
+            {"000000", "011110", "010010", "010010", "011110", "000000"});
+        row("a gap lets the ground through", "501", {1, 1, 4, 4},
+            {"555555", "500005", "501105", "501105", "500005", "555555"});
+        row("past the middle they grow again", "0015", {2, 2, 2, 2},
+            {"000000", "055550", "051150", "051150", "055550", "000000"});
+        row("the edge runs off", "51", {0, 0, 7, 7},
+            {"111111", "100000", "100000", "100000", "100000", "100000"});
     }
     void RingsFollowTheSecondRowFromOutsideToInside() {
-        QFETCH(QString, colours);
-        QFETCH(QRect, box);
-        QFETCH(QStringList, expected);
+        const auto [colours, box, expected] = Ring::now();
         PixelSurface frame(80, 80);
         frame.Line(0, 2, 79, 79, black, LineMode::FilledBox);
         frame.Line(0, 0, 5, 79, black, LineMode::FilledBox);

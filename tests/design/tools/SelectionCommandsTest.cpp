@@ -1,5 +1,6 @@
 #include "design/tools/SelectionCommands.h"
 #include "tests/support/Pictures.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Test.h"
 
 using namespace kaart;
@@ -21,26 +22,20 @@ void select(Design& design, const QRect& box) {
 class SelectionCommandsTest : public QObject {
     Q_OBJECT
 
+    using Clearing = Rows<int, QRect, QStringList>;
+
 private slots:
     void TheRectangleIsClearedWithItsCorners_data() {
-        QTest::addColumn<int>("index");
-        QTest::addColumn<QRect>("box");
-        QTest::addColumn<QStringList>("expected");
+        const Clearing row;
         const QRect box(1, 1, 2, 2);
-        QTest::newRow("cancel") << 0 << box << red;
-        QTest::newRow("clear") << 3 << box
-                               << QStringList{red[0], "200022", "200022", "200022", red[4]};
-        QTest::newRow("one pixel")
-            << 3 << QRect(5, 0, 1, 1) << QStringList{"222220", "222220", red[2], red[3], red[4]};
-        QTest::newRow("with an edge")
-            << 4 << box << QStringList{red[0], "211122", "210122", "211122", red[4]};
-        QTest::newRow("with a frame")
-            << 5 << box << QStringList{"555552", "500052", "500052", "500052", "555552"};
+        row("cancel", 0, box, red);
+        row("clear", 3, box, {red[0], "200022", "200022", "200022", red[4]});
+        row("one pixel", 3, {5, 0, 1, 1}, {"222220", "222220", red[2], red[3], red[4]});
+        row("with an edge", 4, box, {red[0], "211122", "210122", "211122", red[4]});
+        row("with a frame", 5, box, {"555552", "500052", "500052", "500052", "555552"});
     }
     void TheRectangleIsClearedWithItsCorners() {
-        QFETCH(int, index);
-        QFETCH(QRect, box);
-        QFETCH(QStringList, expected);
+        const auto [index, box, expected] = Clearing::now();
         Design design({});
         design.open(pictureOf(red), QString());
         design.change([](PixelSurface& pic) { pic.PSet(100, 100, black); });
@@ -66,7 +61,7 @@ private slots:
         QVERIFY(design.ClipPic.Visible && !design.Layer.Visible);
         QCOMPARE(design.TekenModus, 20);
         QCOMPARE(hint.value(0).value(0).toString(),
-                 QStringLiteral("Afbeelding verslepen met muis, rechts klikken is plaatsen."));
+                 "Afbeelding verslepen met muis, rechts klikken is plaatsen.");
         QCOMPARE(design.UndoPic().Point(438, 638), black);
     }
 };

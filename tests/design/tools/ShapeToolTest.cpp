@@ -1,9 +1,8 @@
 #include "design/tools/CanvasMouse.h"
 #include "design/tools/ShapeTable.h"
 #include "tests/support/Pictures.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Test.h"
-
-#include <QHash>
 
 #include <cmath>
 
@@ -14,50 +13,26 @@ namespace {
 
 constexpr ColorRef ink = RGB(60, 60, 60);
 
-/// The places that the figures' rules name, worked out as the rules say.
-QHash<QString, double> namedPlaces(QPoint from, QPoint to) {
-    const double X0 = from.x(), Y0 = from.y(), X = to.x(), Y = to.y();
-    const double W = X - X0 + 1, H = Y - Y0 + 1;
-    const double Xq = std::floor(X - X0) / 4, Yq = std::floor(Y - Y0) / 4;
-    return {{"X0", X0},
-            {"Y0", Y0},
-            {"X", X},
-            {"Y", Y},
-            {"Xm", X0 + std::floor(X - X0) / 2},
-            {"Ym", Y0 + std::floor(Y - Y0) / 2},
-            {"X1q", X0 + Xq},
-            {"X3q", X0 + 3 * Xq},
-            {"Y1q", Y0 + Yq},
-            {"Y3q", Y0 + 3 * Yq},
-            {"W/2", X0 + W / 2},
-            {"W", X0 + W},
-            {"H/4", Y0 + H / 4},
-            {"H/2", Y0 + H / 2},
-            {"3H/4", Y0 + 3 * H / 4},
-            {"H", Y0 + H},
-            {"a", X0 + W / 2 + W / 8},
-            {"b", Y0 + H / 2 - H / 8},
-            {"c", X0 + 3 * (W / 8)},
-            {"d", Y0 + H / 2 + H / 8},
-            {"e", Y0 + 3 * (H / 8)},
-            {"W/8", X0 + W / 8},
-            {"7W/8", X0 + W - W / 8},
-            {"H/8", Y0 + H / 8},
-            {"7H/8", Y0 + H - H / 8}};
+/// A place that a rule names: eighths of the way, such as "x4", the middle; with X or Y the way is
+/// a pixel longer.
+double placeOf(const QString& name, QPoint from, QPoint to) {
+    const bool across = name[0].toLower() == 'x';
+    const double start = across ? from.x() : from.y();
+    const double way = (across ? to.x() : to.y()) - start + (name[0].isUpper() ? 1 : 0);
+    return start + way * name[1].digitValue() / 8;
 }
 
 /// Draws a rule of strokes: "box" and two corners, "oval" or "arc" of full or half radius and a
 /// centre, or a path of points.
 void drawRule(PixelSurface& pic, const QString& rule, QPoint from, QPoint to) {
-    const QHash<QString, double> places = namedPlaces(from, to);
     const QPointF half = QPointF(to - from) / 2;
-    for (const QString& stroke : rule.split(QStringLiteral("; "))) {
+    for (const QString& stroke : rule.split("; ")) {
         const QStringList words = stroke.split(QLatin1Char(' '));
-        const auto place = [&](int i) { return places.value(words[i]); };
-        if (words[0] == QStringLiteral("box")) {
+        const auto place = [&](int i) { return placeOf(words[i], from, to); };
+        if (words[0] == "box") {
             pic.Line(place(1), place(2), place(3), place(4), ink, LineMode::Box);
-        } else if (words[0] == QStringLiteral("oval") || words[0] == QStringLiteral("arc")) {
-            const double end = words[0] == QStringLiteral("arc") ? 3.14F : 2 * std::numbers::pi;
+        } else if (words[0] == "oval" || words[0] == "arc") {
+            const double end = words[0] == "arc" ? 3.14F : 2 * std::numbers::pi;
             pic.Circle(place(2), place(3), std::max(half.x(), half.y()) / words[1].toInt(), ink, 0,
                        end, half.y() / half.x());
         } else {
@@ -89,32 +64,29 @@ struct Desk {
 class ShapeToolTest : public QObject {
     Q_OBJECT
 
+    using Figure = Rows<int, QString>;
+
 private slots:
     void EachFigureFollowsItsRule_data() {
-        QTest::addColumn<int>("mode");
-        QTest::addColumn<QString>("rule");
-        const QString star = "W/2 Y0 a b W H/2 a d W/2 H c d X0 H/2 c e W/2 Y0";
-        QTest::newRow("box") << 2 << "box X0 Y0 X Y";
-        QTest::newRow("ellipse") << 4 << "oval 1 Xm Ym";
-        QTest::newRow("triangle") << 5 << "X0 Y Xm Y0 X Y X0 Y";
-        QTest::newRow("diamond") << 6 << "X0 Ym Xm Y0 X Ym Xm Y X0 Ym";
-        QTest::newRow("pentagon") << 7 << "X0 Y1q Xm Y0 X Y1q X3q Y X1q Y X0 Y1q";
-        QTest::newRow("hexagon") << 8 << "X0 Y1q Xm Y0 X Y1q X Y3q Xm Y X0 Y3q X0 Y1q";
-        QTest::newRow("heart") << 9 << "arc 2 X1q Y1q; arc 2 X3q Y1q; X Y1q Xm Y X0 Y1q";
-        QTest::newRow("cone") << 10 << "arc 1 Xm Ym; X Ym Xm Y X0 Ym";
-        QTest::newRow("quatro") << 11
-                                << "oval 2 X1q Y1q; oval 2 X3q Y1q; oval 2 X1q Y3q; oval 2 X3q Y3q";
-        QTest::newRow("open star") << 13 << star;
-        QTest::newRow("star") << 14 << star + "; X0 H/2 W H/2; W/2 Y0 W/2 H; a b c d; c e a d";
-        QTest::newRow("box and diamond")
-            << 15 << "box W/8 H/8 7W/8 7H/8; X0 H/2 W/2 Y0 W H/2 W/2 H X0 H/2";
-        QTest::newRow("two triangles")
-            << 16 << "X0 H/4 W H/4 W/2 H X0 H/4; X0 3H/4 W 3H/4 W/2 Y0 X0 3H/4";
-        QTest::newRow("five lines") << 17 << "W/2 Y0 W H X0 H/4 W H/4 X0 H W/2 Y0";
+        const Figure row;
+        const QString star = "X4 y0 X5 Y3 X8 Y4 X5 Y5 X4 Y8 X3 Y5 x0 Y4 X3 Y3 X4 y0";
+        row("box", 2, "box x0 y0 x8 y8");
+        row("ellipse", 4, "oval 1 x4 y4");
+        row("triangle", 5, "x0 y8 x4 y0 x8 y8 x0 y8");
+        row("diamond", 6, "x0 y4 x4 y0 x8 y4 x4 y8 x0 y4");
+        row("pentagon", 7, "x0 y2 x4 y0 x8 y2 x6 y8 x2 y8 x0 y2");
+        row("hexagon", 8, "x0 y2 x4 y0 x8 y2 x8 y6 x4 y8 x0 y6 x0 y2");
+        row("heart", 9, "arc 2 x2 y2; arc 2 x6 y2; x8 y2 x4 y8 x0 y2");
+        row("cone", 10, "arc 1 x4 y4; x8 y4 x4 y8 x0 y4");
+        row("quatro", 11, "oval 2 x2 y2; oval 2 x6 y2; oval 2 x2 y6; oval 2 x6 y6");
+        row("open star", 13, star);
+        row("star", 14, star + "; x0 Y4 X8 Y4; X4 y0 X4 Y8; X5 Y3 X3 Y5; X3 Y3 X5 Y5");
+        row("box and diamond", 15, "box X1 Y1 X7 Y7; x0 Y4 X4 y0 X8 Y4 X4 Y8 x0 Y4");
+        row("two triangles", 16, "x0 Y2 X8 Y2 X4 Y8 x0 Y2; x0 Y6 X8 Y6 X4 y0 x0 Y6");
+        row("five lines", 17, "X4 y0 X8 Y8 x0 Y2 X8 Y2 x0 Y8 X4 y0");
     }
     void EachFigureFollowsItsRule() {
-        QFETCH(int, mode);
-        QFETCH(QString, rule);
+        const auto [mode, rule] = Figure::now();
         const QPoint from(20, 30);
         for (const QPoint& size :
              {QPoint(1, 1), QPoint(21, 34), QPoint(66, 45), QPoint(103, 203)}) {

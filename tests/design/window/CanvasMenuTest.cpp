@@ -1,18 +1,9 @@
-#include "controls/ControlTable.h"
-#include "controls/SurfaceView.h"
-#include "controls/VistaButton.h"
 #include "design/tools/CanvasCommands.h"
-#include "design/window/Main.h"
 #include "design/window/MenuTable.h"
 #include "tests/support/Answer.h"
+#include "tests/support/MainDesk.h"
 #include "tests/support/Pictures.h"
 #include "tests/support/Test.h"
-
-#include <QAction>
-#include <QClipboard>
-#include <QDesktopServices>
-#include <QMenu>
-#include <QTemporaryDir>
 
 using namespace kaart;
 
@@ -23,38 +14,25 @@ public slots:
     void open(const QUrl& url) { opened_ << url.toString(); }
 
 private slots:
-    void initTestCase() { window_.show(); }
-
     void TheColourRunsOpenFromTheirButton() {
-        QTimer::singleShot(0, &window_, [] {
-            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-            QVERIFY(menu != nullptr && menu->objectName() == "Gradientkleur");
-            menu->setActiveAction(menu->actions().at(2));
-            QTest::keyClick(menu, Qt::Key_Return);
+        desk_.onPopUp([](QMenu& menu) {
+            QCOMPARE(menu.objectName(), "Gradientkleur");
+            menu.setActiveAction(menu.actions().at(2));
+            QTest::keyClick(&menu, Qt::Key_Return);
         });
-        QTest::mouseClick(&control<VistaButton>(window_, "TekenKnop", 8), Qt::LeftButton);
-        QCOMPARE(design_.Pic().Point(5, 639), design_.Tekenkleur);
-        entry("EditUndo").trigger();
-        QCOMPARE(design_.Pic().Point(5, 639), white);
-    }
-
-    void ADragIsNotCutInto() {
-        auto& pic = control<SurfaceView>(window_, "Pic");
-        QTest::mouseClick(&control<VistaButton>(window_, "TekenKnop", 1), Qt::LeftButton);
-        QTest::mousePress(&pic, Qt::LeftButton, {}, QPoint(100, 100));
-        entry("ToolsRanden(4)").trigger();
-        QCOMPARE(design_.Pic().Point(0, 0), white);
-        QTest::mouseRelease(&pic, Qt::LeftButton, {}, QPoint(100, 100));
-        entry("ToolsRanden(4)").trigger();
-        QCOMPARE(design_.Pic().Point(0, 0), design_.Tekenkleur);
+        desk_.click("TekenKnop(8)");
+        QCOMPARE(desk_.design.Pic().Point(5, 639), desk_.design.Tekenkleur);
+        desk_.entry("EditUndo").trigger();
+        QCOMPARE(desk_.design.Pic().Point(5, 639), white);
     }
 
     void TheClipboardHoldsTheDesignAsItWas() {
         Answer ok;
         ok.press(QMessageBox::Ok);
-        const QImage before = design_.Pic().Image();
-        entry("EditClipboard").trigger();
-        design_.change([](PixelSurface& pic) { pic.PSet(9, 9, colourOf('4')); });
+        desk_.entry("ToolsRanden(4)").trigger();
+        const QImage before = desk_.design.Pic().Image();
+        desk_.entry("EditClipboard").trigger();
+        desk_.design.change([](PixelSurface& pic) { pic.PSet(9, 9, colourOf('4')); });
         comparePictures(QGuiApplication::clipboard()->image(), before);
         QCOMPARE(ok.seen(), QStringList("Mijn Kaartwerkje|Afbeelding is gecopyeerd naar het "
                                         "Clipboard voor\r\nverdere bewerking in een ander "
@@ -67,13 +45,13 @@ private slots:
         }
         Answer ok;
         ok.press(QMessageBox::Ok);
-        QVERIFY(!entry("HelpHelp").isEnabled());
+        QVERIFY(!desk_.entry("HelpHelp").isEnabled());
         for (const char* name : {"Helpscreen(1)", "Helpscreen(2)", "HelpSpecialeTekens",
                                  "HelpMeerSoftware", "HelpMeerAfbeeldingen"}) {
-            entry(name).trigger();
+            desk_.entry(name).trigger();
         }
         QVERIFY(QFile::remove(document_));
-        entry("Helpscreen(2)").trigger();
+        desk_.entry("Helpscreen(2)").trigger();
         QCOMPARE(ok.seen(), QStringList({" Scherminfo|" + screenInfo(96, {800, 800}),
                                          "Mijn Kaartwerkje|" + specialCharacters(),
                                          "Help|Beeldscherm.pdf kan niet worden geopend."}));
@@ -85,18 +63,15 @@ private slots:
     }
 
 private:
-    QAction& entry(const char* name) { return *window_.findChild<QAction*>(name); }
-
-    QString writeDocument() const {
-        QFile file(folder_.filePath("Data/Beeldscherm.pdf"));
-        const bool written = QDir(folder_.path()).mkpath("Data") && file.open(QFile::WriteOnly);
-        return written ? file.fileName() : QString();
+    static std::shared_ptr<QTemporaryDir> folderWithDocument() {
+        auto folder = std::make_shared<QTemporaryDir>();
+        QDir(folder->path()).mkdir("Data");
+        QFile(folder->filePath("Data/Beeldscherm.pdf")).open(QFile::WriteOnly);
+        return folder;
     }
 
-    QTemporaryDir folder_;
-    const QString document_ = writeDocument(); // before the window looks for it
-    Design design_{{folder_.path(), folder_.path()}};
-    Main window_{design_, {}};
+    MainDesk desk_{{}, folderWithDocument()};
+    const QString document_ = desk_.folder->filePath("Data/Beeldscherm.pdf");
     QStringList opened_;
 };
 

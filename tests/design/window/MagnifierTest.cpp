@@ -4,6 +4,7 @@
 #include "design/window/PanelTable.h"
 #include "design/window/StartValues.h"
 #include "tests/support/Pictures.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Test.h"
 
 using namespace kaart;
@@ -71,22 +72,20 @@ struct Desk {
 class MagnifierTest : public QObject {
     Q_OBJECT
 
+    // The screen pixel under the middle of the cross comes last.
+    using Look = Rows<int, QRect, QPoint>;
+
 private slots:
     void LooksAtTheScreenRoundTheMouse_data() {
-        QTest::addColumn<int>("z");
-        QTest::addColumn<QRect>("asked");
-        // The screen pixel under the middle of the cross.
-        QTest::addColumn<QPoint>("sampled");
-        QTest::newRow("1") << 1 << QRect(320, 232, 160, 136) << QPoint(399, 297);
-        QTest::newRow("2") << 2 << QRect(360, 266, 80, 68) << QPoint(399, 298);
-        QTest::newRow("3: 53.3 and 45.3") << 3 << QRect(374, 278, 53, 45) << QPoint(400, 299);
-        QTest::newRow("7: 22.9 and 19.4") << 7 << QRect(389, 291, 23, 19) << QPoint(400, 300);
-        QTest::newRow("10: 16 and 13.6") << 10 << QRect(392, 293, 16, 14) << QPoint(399, 299);
+        const Look row;
+        row("1", 1, {320, 232, 160, 136}, {399, 297});
+        row("2", 2, {360, 266, 80, 68}, {399, 298});
+        row("3: 53.3 and 45.3", 3, {374, 278, 53, 45}, {400, 299});
+        row("7: 22.9 and 19.4", 7, {389, 291, 23, 19}, {400, 300});
+        row("10: 16 and 13.6", 10, {392, 293, 16, 14}, {399, 299});
     }
     void LooksAtTheScreenRoundTheMouse() {
-        QFETCH(int, z);
-        QFETCH(QRect, asked);
-        QFETCH(QPoint, sampled);
+        const auto [z, asked, sampled] = Look::now();
         Desk desk;
         desk.slider().setValue(z);
         desk.magnifier->tick();
@@ -111,28 +110,25 @@ private slots:
         QCOMPARE(control<QWidget>(desk.window, "Line2").geometry(), QRect(60, 65, 39, 1));
     }
 
-    void EveryWayToTurnItOffStopsAll_data() {
-        QTest::addColumn<std::function<void(Desk&)>>("turnOff");
-        using TurnOff = std::function<void(Desk&)>;
-        QTest::newRow("slider") << TurnOff([](Desk& desk) { desk.slider().setValue(0); });
-        QTest::newRow("reset") << TurnOff([](Desk& desk) { resetControls(desk.window); });
-        QTest::newRow("closing") << TurnOff([](Desk& desk) { desk.window.close(); });
-    }
     void EveryWayToTurnItOffStopsAll() {
-        QFETCH(std::function<void(Desk&)>, turnOff);
-        Desk desk;
-        QVERIFY(!desk.running() && !desk.crossed());
-        desk.slider().setValue(4);
-        desk.slider().setValue(5);
-        QCOMPARE(desk.screen->started, 1); // once per turning on
-        QVERIFY(desk.running());
-        desk.magnifier->tick();
-        turnOff(desk);
-        QVERIFY(!desk.running() && !desk.crossed());
-        QCOMPARE(desk.screen->stopped, 1);
-        QCOMPARE(desk.label(), QStringLiteral("RGB :"));
-        desk.magnifier->tick();
-        comparePictures(desk.picture(), PixelSurface(160, 136).Image());
+        using TurnOff = std::function<void(Desk&)>;
+        for (const TurnOff& turnOff : {TurnOff([](Desk& desk) { desk.slider().setValue(0); }),
+                                       TurnOff([](Desk& desk) { resetControls(desk.window); }),
+                                       TurnOff([](Desk& desk) { desk.window.close(); })}) {
+            Desk desk;
+            QVERIFY(!desk.running() && !desk.crossed());
+            desk.slider().setValue(4);
+            desk.slider().setValue(5);
+            QCOMPARE(desk.screen->started, 1); // once per turning on
+            QVERIFY(desk.running());
+            desk.magnifier->tick();
+            turnOff(desk);
+            QVERIFY(!desk.running() && !desk.crossed());
+            QCOMPARE(desk.screen->stopped, 1);
+            QCOMPARE(desk.label(), "RGB :");
+            desk.magnifier->tick();
+            comparePictures(desk.picture(), PixelSurface(160, 136).Image());
+        }
     }
 
     void AFrozenPictureIsAnnouncedAndARefusalTurnsItOff() {
@@ -140,11 +136,11 @@ private slots:
         desk.slider().setValue(3);
         desk.screen->blind = true;
         desk.magnifier->tick();
-        QCOMPARE(desk.label(), QStringLiteral("RGB :"));
+        QCOMPARE(desk.label(), "RGB :");
         emit desk.screen->frozen();
-        QVERIFY(desk.hint.contains(QStringLiteral("stilstaand beeld")) && desk.running());
+        QVERIFY(desk.hint.contains("stilstaand beeld") && desk.running());
         emit desk.screen->refused();
-        QVERIFY(desk.hint.contains(QStringLiteral("niet zien")) && !desk.running());
+        QVERIFY(desk.hint.contains("niet zien") && !desk.running());
         QCOMPARE(desk.slider().value(), 0);
     }
 };

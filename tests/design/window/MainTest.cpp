@@ -1,25 +1,13 @@
 #include "design/window/Main.h"
 
-#include "controls/ControlTable.h"
-#include "controls/SurfaceView.h"
-#include "controls/VistaButton.h"
 #include "design/surface/Numbers.h"
 #include "design/window/AboutForm.h"
 #include "design/window/MenuTable.h"
 #include "design/window/PanelTable.h"
 #include "tests/support/Answer.h"
+#include "tests/support/MainDesk.h"
 #include "tests/support/Pictures.h"
 #include "tests/support/Test.h"
-
-#include <QAction>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenuBar>
-#include <QPlainTextEdit>
-#include <QScrollBar>
-#include <QTemporaryDir>
 
 using namespace kaart;
 
@@ -29,34 +17,12 @@ int opened = 0;
 constexpr WindowRow windows[] = {{"FileSave", [](Design&, QWidget*) { ++opened; }},
                                  {"StartKnop", [](Design&, QWidget*) { ++opened; }}};
 
-/// A program folder, a design and its main window.
-struct Desk {
-    Desk() { window.show(); }
-
-    QString ini() const { return folder.filePath("Kaartwerkje.ini"); }
-    QByteArray iniBytes() const {
-        QFile file(ini());
+struct Desk : MainDesk {
+    Desk() : MainDesk(windows) {}
+    QByteArray ini() const {
+        QFile file(folder->filePath("Kaartwerkje.ini"));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-    SurfaceView& pic() { return control<SurfaceView>(window, "Pic"); }
-    QAction& entry(const char* name, int index = -1) {
-        return *window.findChild<QAction*>(fullName(name, index));
-    }
-    void click(int tool) {
-        QTest::mouseClick(&control<VistaButton>(window, "TekenKnop", tool), Qt::LeftButton);
-    }
-    void drag(QPoint from, QPoint to) {
-        QTest::mousePress(&pic(), Qt::LeftButton, {}, from);
-        // An event of its own: QTest's moves carry no button.
-        QMouseEvent move(QEvent::MouseMove, to, pic().mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
-                         {});
-        QApplication::sendEvent(&pic(), &move);
-        QTest::mouseRelease(&pic(), Qt::LeftButton, {}, to);
-    }
-
-    QTemporaryDir folder;
-    Design design{{folder.path(), folder.filePath("Pictures")}};
-    Main window{design, windows};
 };
 
 } // namespace
@@ -69,15 +35,13 @@ private slots:
         Desk desk;
         QCOMPARE(desk.window.centralWidget()->size(), QSize(1186, 720));
         QCOMPARE(desk.pic().geometry(), QRect(425, 14, 440, 640));
-        QVERIFY(desk.iniBytes().endsWith("\r\n0,0,0,0\r\n"));
+        QVERIFY(desk.ini().endsWith("\r\n0,0,0,0\r\n"));
         QCOMPARE(desk.design.TekenModus, 999);
-        QVERIFY(desk.entry("Richting", 1).isChecked());
-        QCOMPARE(control<QLabel>(desk.window, "HexLabel").text(),
-                 QStringLiteral("Heximaal (#3C3C3C)"));
-        QCOMPARE(control<QLabel>(desk.window, "Label11").text(),
-                 QStringLiteral("Ronde hoeken bij rechthoek (30)"));
-        QCOMPARE(control<QComboBox>(desk.window, "Combo2").count(), 72);
-        QCOMPARE(control<QComboBox>(desk.window, "Combo1").currentText(), QStringLiteral("Arial"));
+        QVERIFY(desk.entry("Richting(1)").isChecked());
+        QCOMPARE(desk.text("HexLabel"), "Heximaal (#3C3C3C)");
+        QCOMPARE(desk.text("Label11"), "Ronde hoeken bij rechthoek (30)");
+        QCOMPARE(desk.at<QComboBox>("Combo2").count(), 72);
+        QCOMPARE(desk.at<QComboBox>("Combo1").currentText(), "Arial");
     }
 
     void ReadsAndMendsItsSettingsFile() {
@@ -115,21 +79,21 @@ private slots:
 
     void AFilterShowsHowFarItIs() {
         Desk desk;
-        auto& bar = control<SurfaceView>(desk.window, "Bar");
+        auto& bar = desk.at<SurfaceView>("Bar");
         QSignalSpy shown(&desk.design, &Design::progressChanged);
-        desk.entry("Filter", 5).trigger();
+        desk.entry("Filter(5)").trigger();
         QCOMPARE(desk.design.Pic().Point(200, 300), black);
         QVERIFY(shown.size() >= 2);
         QVERIFY(bar.isHidden());
         QCOMPARE(bar.Image().size(), QSize(380, 18));
-        QCOMPARE(control<QLabel>(desk.window, "BarLabel").text(), "100%");
+        QCOMPARE(desk.text("BarLabel"), "100%");
         QVERIFY(QGuiApplication::overrideCursor() == nullptr);
     }
 
     void NothingOverlapsInEitherOrientation() {
         Desk desk;
         for (int kind : {1, 2}) {
-            desk.entry("Richting", kind).trigger();
+            desk.entry(kind == 1 ? "Richting(1)" : "Richting(2)").trigger();
             const auto* inside = desk.window.centralWidget();
             const auto children =
                 inside->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
@@ -145,21 +109,19 @@ private slots:
             }
         }
         QCOMPARE(desk.pic().geometry(), QRect(425, 14, 640, 440));
-        QCOMPARE(control<QWidget>(desk.window, "Frame9").geometry(),
+        QCOMPARE(desk.at<QWidget>("Frame9").geometry(),
                  QRect(pixels(12240), pixels(6930), pixels(3810), pixels(2955)));
     }
 
     void DrawsWithTheMouseAndUndoesWithAKey() {
         Desk desk;
-        desk.click(0);
-        QCOMPARE(control<QLabel>(desk.window, "InfoLabel").text(),
-                 QStringLiteral("Tekenen van kromme lijnen uit de vrij hand."));
-        control<QScrollBar>(desk.window, "HScroll1", 0).setValue(250);
-        desk.drag({20, 30}, {80, 30});
+        desk.click("TekenKnop(0)");
+        QCOMPARE(desk.text("InfoLabel"), "Tekenen van kromme lijnen uit de vrij hand.");
+        desk.at<QScrollBar>("HScroll1(0)").setValue(250);
+        drag(desk.pic(), {20, 30}, {80, 30});
         QCOMPARE(desk.design.Pic().Point(50, 30), RGB(250, 60, 60));
         QCOMPARE(desk.pic().Image(), desk.design.Pic().Image());
-        QCOMPARE(control<QLabel>(desk.window, "CoorLabel").text(),
-                 QStringLiteral("X : 80 / Y : 30"));
+        QCOMPARE(desk.text("CoorLabel"), "X : 80 / Y : 30");
         desk.window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&desk.window));
         QTest::keyClick(&desk.window, Qt::Key_Z, Qt::ControlModifier);
@@ -168,7 +130,7 @@ private slots:
 
     void ShortcutsWorkWhereverTheFocusIs() {
         Desk desk;
-        desk.click(6);
+        desk.click("TekenKnop(6)");
         QApplication::setActiveWindow(&desk.window);
         opened = 0;
         int tried = 0;
@@ -186,76 +148,52 @@ private slots:
         Desk desk;
         desk.design.change([](PixelSurface& pic) { pic.PSet(7, 8, RGB(10, 20, 30)); });
         QTest::mouseClick(&desk.pic(), Qt::RightButton, {}, QPoint(7, 8));
-        QCOMPARE(control<QScrollBar>(desk.window, "VulScroll", 0).value(), 10);
-        QCOMPARE(control<QScrollBar>(desk.window, "VulScroll", 2).value(), 30);
+        QCOMPARE(desk.at<QScrollBar>("VulScroll(0)").value(), 10);
+        QCOMPARE(desk.at<QScrollBar>("VulScroll(2)").value(), 30);
         QCOMPARE(desk.design.Vulkleur, RGB(10, 20, 30));
     }
 
     void ButtonsOnOnePlaceSwitchTheirPanels() {
         Desk desk;
-        const auto shown = [&](const char* name) {
-            return control<QWidget>(desk.window, name).isVisible();
-        };
-        auto& transparent = control<QCheckBox>(desk.window, "Check4");
-        QVERIFY(shown("Frame4") && !shown("Frame7") && !transparent.isEnabled());
-        desk.click(6);
-        QVERIFY(!shown("Frame4") && shown("Frame7") && transparent.isEnabled());
-        QVERIFY(!shown("TekenKnop(6)") && shown("TekenKnop(66)"));
+        auto& transparent = desk.at<QCheckBox>("Check4");
+        QVERIFY(desk.shown("Frame4") && !desk.shown("Frame7") && !transparent.isEnabled());
+        desk.click("TekenKnop(6)");
+        QVERIFY(!desk.shown("Frame4") && desk.shown("Frame7") && transparent.isEnabled());
+        QVERIFY(!desk.shown("TekenKnop(6)") && desk.shown("TekenKnop(66)"));
         QVERIFY(desk.design.Gewijzigd);
-        desk.click(66);
-        QVERIFY(shown("Frame4") && !shown("Frame7") && !transparent.isEnabled());
-        desk.click(9);
-        QVERIFY(!shown("Frame9") && shown("Frame10") && shown("TekenKnop(55)"));
-        desk.click(55);
-        QVERIFY(shown("Frame9") && !shown("Frame10"));
-    }
-
-    void OnlyTheEraserOffersItsCheck() {
-        Desk desk;
-        auto& check = control<QCheckBox>(desk.window, "Check3");
-        desk.click(4);
-        QVERIFY(check.isEnabled());
-        desk.click(0);
-        QVERIFY(!check.isEnabled());
-    }
-
-    void TheSelectionGoesWhenItsMenuIsClosed() {
-        Desk desk;
-        desk.click(5);
-        QTimer::singleShot(0, &desk.window, [&desk] {
-            QVERIFY(control<QMenu>(desk.window, "CopySelectie").isVisible());
-            QVERIFY(control<QWidget>(desk.window, "Layer").isVisible());
-            QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
-        });
-        desk.drag({10, 10}, {60, 50});
-        QVERIFY(!control<QWidget>(desk.window, "Layer").isVisible());
-        comparePictures(desk.design.Pic().Image(), PixelSurface(440, 640).Image());
+        desk.click("TekenKnop(66)");
+        QVERIFY(desk.shown("Frame4") && !desk.shown("Frame7") && !transparent.isEnabled());
+        desk.click("TekenKnop(9)");
+        QVERIFY(!desk.shown("Frame9") && desk.shown("Frame10") && desk.shown("TekenKnop(55)"));
+        desk.click("TekenKnop(55)");
+        QVERIFY(desk.shown("Frame9") && !desk.shown("Frame10"));
     }
 
     void AidsNeverReachTheDesign() {
         Desk desk;
         for (const char* name : {"Check1", "Check5"}) {
-            control<QCheckBox>(desk.window, name).click();
+            desk.at<QCheckBox>(name).click();
         }
-        QCOMPARE(control<QCheckBox>(desk.window, "Check1").text(),
-                 QStringLiteral("Tekenkruis Aan"));
-        QVERIFY(control<QWidget>(desk.window, "HorLijn").isVisible());
-        QVERIFY(control<QWidget>(desk.window, "TopMaat").isVisible());
-        desk.click(4);
+        QCOMPARE(desk.at<QCheckBox>("Check1").text(), "Tekenkruis Aan");
+        QVERIFY(desk.shown("HorLijn") && desk.shown("TopMaat"));
+        desk.click("TekenKnop(4)");
+        QVERIFY(desk.at<QCheckBox>("Check3").isEnabled());
         QTest::mousePress(&desk.pic(), Qt::LeftButton, {}, QPoint(100, 100));
-        QVERIFY(control<QWidget>(desk.window, "Gom").isVisible());
+        QVERIFY(desk.shown("Gom"));
         QTest::mouseRelease(&desk.pic(), Qt::LeftButton, {}, QPoint(100, 100));
         comparePictures(desk.pic().Image(), PixelSurface(440, 640).Image());
+        desk.click("TekenKnop(0)");
+        QVERIFY(!desk.at<QCheckBox>("Check3").isEnabled());
     }
 
     void ResetSetsTheControlsBackAndLeavesTheDesign() {
         Desk desk;
         desk.design.change([](PixelSurface& pic) { pic.PSet(1, 1, black); });
-        control<QScrollBar>(desk.window, "HScroll2").setValue(9);
-        control<QScrollBar>(desk.window, "VulScroll", 1).setValue(9);
-        control<QCheckBox>(desk.window, "BoldCheck").setChecked(true);
-        control<QComboBox>(desk.window, "Combo6").setCurrentIndex(2);
-        auto& button = control<VistaButton>(desk.window, "ResetKnop");
+        desk.at<QScrollBar>("HScroll2").setValue(9);
+        desk.at<QScrollBar>("VulScroll(1)").setValue(9);
+        desk.at<QCheckBox>("BoldCheck").setChecked(true);
+        desk.at<QComboBox>("Combo6").setCurrentIndex(2);
+        auto& button = desk.at<VistaButton>("ResetKnop");
         {
             Answer no;
             no.press(QMessageBox::No);
@@ -265,13 +203,12 @@ private slots:
         Answer yes;
         yes.press(QMessageBox::Yes);
         button.click();
-        QCOMPARE(yes.seen().value(0),
-                 QStringLiteral("Resetten|Wil je alle knoppen weer in de beginstand zetten?"));
+        QCOMPARE(yes.seen().value(0), "Resetten|Wil je alle knoppen weer in de beginstand zetten?");
         QCOMPARE(desk.design.LijnDikte, 2);
         QCOMPARE(desk.design.Vulkleur, RGB(200, 250, 0));
-        QVERIFY(!control<QCheckBox>(desk.window, "BoldCheck").isChecked());
-        QCOMPARE(control<QComboBox>(desk.window, "Combo6").currentText(), QStringLiteral("S"));
-        QCOMPARE(control<QLineEdit>(desk.window, "Text1").text(), QStringLiteral("Mijn Tekst"));
+        QVERIFY(!desk.at<QCheckBox>("BoldCheck").isChecked());
+        QCOMPARE(desk.at<QComboBox>("Combo6").currentText(), "S");
+        QCOMPARE(desk.at<QLineEdit>("Text1").text(), "Mijn Tekst");
         QCOMPARE(desk.design.Pic().Point(1, 1), black);
     }
 
@@ -279,14 +216,14 @@ private slots:
         Desk desk;
         opened = 0;
         const PuzzleResult& choice = desk.design.Puzzel;
-        QVERIFY(!control<VistaButton>(desk.window, "ScoreKnop").isEnabled()); // has no window here
-        auto& start = control<VistaButton>(desk.window, "StartKnop");
+        QVERIFY(!desk.at<VistaButton>("ScoreKnop").isEnabled()); // has no window here
+        auto& start = desk.at<VistaButton>("StartKnop");
         start.click();
         QCOMPARE((QList{choice.PuzzleCols, choice.PuzzleRows, choice.PuzzleLevel, opened}),
                  (QList{3, 3, 1, 1}));
-        control<QComboBox>(desk.window, "Combo4").setCurrentText(QStringLiteral("6"));
-        control<QComboBox>(desk.window, "Combo5").setCurrentText(QStringLiteral("4"));
-        control<QComboBox>(desk.window, "Combo6").setCurrentText(QStringLiteral("M"));
+        desk.at<QComboBox>("Combo4").setCurrentText("6");
+        desk.at<QComboBox>("Combo5").setCurrentText("4");
+        desk.at<QComboBox>("Combo6").setCurrentText("M");
         start.click();
         QCOMPARE((QList{choice.PuzzleCols, choice.PuzzleRows, choice.PuzzleLevel, opened}),
                  (QList{6, 4, 2, 2}));
@@ -299,8 +236,7 @@ private slots:
             Answer answer;
             answer.press(button);
             desk.entry("FileNew").trigger();
-            QCOMPARE(answer.seen().value(0),
-                     QStringLiteral("Nieuw|Wil je een nieuw ontwerp maken?"));
+            QCOMPARE(answer.seen().value(0), "Nieuw|Wil je een nieuw ontwerp maken?");
             QCOMPARE(desk.design.Pic().Point(1, 1) == black, button == QMessageBox::No);
         }
     }
@@ -312,7 +248,7 @@ private slots:
             Answer nothing;
             QVERIFY(desk.window.close());
             QVERIFY(nothing.seen().isEmpty());
-            QVERIFY(desk.iniBytes().endsWith("\r\n0,0,0,0\r\n"));
+            QVERIFY(desk.ini().endsWith("\r\n0,0,0,0\r\n"));
         }
         desk.window.show();
         desk.design.Gewijzigd = true;
@@ -321,36 +257,37 @@ private slots:
             no.press(QMessageBox::No);
             QVERIFY(!desk.window.close());
             QVERIFY(desk.window.isVisible());
-            QVERIFY(desk.iniBytes().endsWith("\r\n0,0,0,0\r\n"));
+            QVERIFY(desk.ini().endsWith("\r\n0,0,0,0\r\n"));
         }
         Answer yes;
         yes.press(QMessageBox::Yes);
         desk.entry("FileExit").trigger();
         QVERIFY(!desk.window.isVisible());
-        QCOMPARE(yes.seen().value(0),
-                 QStringLiteral("Afsluiten|Ontwerp is gewijzigd, wil je toch afsluiten?"));
-        QVERIFY(desk.iniBytes().endsWith("\r\n7,0,0,0\r\n"));
+        QCOMPARE(yes.seen().value(0), "Afsluiten|Ontwerp is gewijzigd, wil je toch afsluiten?");
+        QVERIFY(desk.ini().endsWith("\r\n7,0,0,0\r\n"));
     }
 
-    void ShortcutsWaitForTheEndOfADrag() {
+    void EntriesWaitForTheEndOfADrag() {
         Desk desk;
-        desk.click(1);
+        desk.click("TekenKnop(1)");
         QTest::mousePress(&desk.pic(), Qt::LeftButton, {}, QPoint(10, 10));
-        QCOMPARE(desk.design.Pic().Point(10, 10), black);
-        desk.entry("EditUndo").trigger();
-        QCOMPARE(desk.design.Pic().Point(10, 10), black);
-        desk.entry("Richting", 2).trigger();
+        for (const char* entry : {"EditUndo", "ToolsRanden(4)", "Richting(2)"}) {
+            desk.entry(entry).trigger();
+            QCOMPARE(desk.design.Pic().Point(10, 10), black);
+            QCOMPARE(desk.design.Pic().Point(0, 0), white);
+        }
         QCOMPARE(desk.pic().size(), QSize(440, 640));
         QTest::mouseRelease(&desk.pic(), Qt::LeftButton, {}, QPoint(10, 10));
-        QVERIFY(desk.entry("Richting", 1).isChecked());
+        QVERIFY(desk.entry("Richting(1)").isChecked());
+        desk.entry("ToolsRanden(4)").trigger();
+        QCOMPARE(desk.design.Pic().Point(0, 0), desk.design.Tekenkleur);
     }
 
     void TheAboutWindowNamesItsMaker() {
         AboutForm form;
-        QCOMPARE(form.windowTitle(), QStringLiteral("About Me..."));
-        QVERIFY(control<QLabel>(form, "Label1")
-                    .text()
-                    .startsWith(QStringLiteral("This program is design by Brelmo")));
+        QCOMPARE(form.windowTitle(), "About Me...");
+        QVERIFY(
+            control<QLabel>(form, "Label1").text().startsWith("This program is design by Brelmo"));
         form.show();
         QTest::mouseClick(&control<VistaButton>(form, "CancelKnop"), Qt::LeftButton);
         QVERIFY(!form.isVisible());

@@ -1,32 +1,20 @@
-#include "controls/ControlTable.h"
 #include "controls/Fader.h"
-#include "controls/SurfaceView.h"
-#include "controls/VistaButton.h"
 #include "design/surface/PictureGate.h"
 #include "design/tools/ShapeTable.h"
-#include "design/window/Main.h"
 #include "design/window/MenuTable.h"
+#include "tests/support/MainDesk.h"
 #include "tests/support/Pictures.h"
 #include "tests/support/Test.h"
-
-#include <QApplication>
-#include <QCheckBox>
-#include <QLabel>
-#include <QMenu>
-#include <QTemporaryDir>
 
 using namespace kaart;
 
 namespace {
 
-/// A program folder with frame files, and its main window.
-struct Desk {
-    explicit Desk(const QMap<QString, ColorRef>& frames = {}) : folder(folderWith(frames)) {
-        window = std::make_unique<Main>(design, WindowTable());
-        window->show();
-    }
-    static std::unique_ptr<QTemporaryDir> folderWith(const QMap<QString, ColorRef>& frames) {
-        auto folder = std::make_unique<QTemporaryDir>();
+/// A main window whose folder has frame files.
+struct Desk : MainDesk {
+    explicit Desk(const QMap<QString, ColorRef>& frames = {}) : MainDesk({}, folderWith(frames)) {}
+    static std::shared_ptr<QTemporaryDir> folderWith(const QMap<QString, ColorRef>& frames) {
+        auto folder = std::make_shared<QTemporaryDir>();
         QDir(folder->path()).mkdir("Lijsten");
         for (auto frame = frames.begin(); frame != frames.end(); ++frame) {
             // One ring, the second: along the edge of the design.
@@ -36,15 +24,9 @@ struct Desk {
         }
         return folder;
     }
-    QAction& vorm(int index) { return control<QAction>(*window, "Vormen", index); }
-    QString position() { return control<QLabel>(*window, "Label28").text(); }
-    ColorRef shownRing() {
-        return toColorRef(control<SurfaceView>(*window, "LijstPic").Image().pixel(7, 1));
-    }
-
-    std::unique_ptr<QTemporaryDir> folder;
-    Design design{{folder->path(), folder->path()}};
-    std::unique_ptr<Main> window;
+    QAction& vorm(int index) { return control<QAction>(window, "Vormen", index); }
+    QString position() { return text("Label28"); }
+    ColorRef shownRing() { return toColorRef(at<SurfaceView>("LijstPic").Image().pixel(7, 1)); }
 };
 
 } // namespace
@@ -55,9 +37,9 @@ class ShapeAndFramePanelTest : public QObject {
 private slots:
     void EachEntryChoosesTheFigureOfItsCaption() {
         Desk desk;
-        auto& cut = control<QCheckBox>(*desk.window, "Check2");
+        auto& cut = desk.at<QCheckBox>("Check2");
         QVERIFY(!cut.isEnabled());
-        QTest::mouseClick(&control<VistaButton>(*desk.window, "TekenKnop", 1), Qt::LeftButton);
+        desk.click("TekenKnop(1)");
         for (int i = 1; i <= 16; ++i) {
             QCOMPARE(desk.vorm(i).text().remove('&'),
                      QString::fromUtf8(shapeTable()[static_cast<std::size_t>(i - 1)].caption));
@@ -67,7 +49,7 @@ private slots:
             QVERIFY(desk.vorm(i).isChecked());
             QVERIFY(i == 1 || !desk.vorm(i - 1).isChecked());
         }
-        QVERIFY(!control<VistaButton>(*desk.window, "TekenKnop", 1).isChecked());
+        QVERIFY(!desk.at<VistaButton>("TekenKnop(1)").isChecked());
         desk.vorm(2).trigger();
         desk.vorm(2).trigger();
         QVERIFY(desk.vorm(2).isChecked());
@@ -76,19 +58,13 @@ private slots:
 
     void TheToolButtonOpensTheFigures() {
         Desk desk;
-        QTimer::singleShot(0, desk.window.get(), [&] {
-            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-            QVERIFY(menu != nullptr);
-            menu->setActiveAction(&desk.vorm(1));
-            QTest::keyClick(menu, Qt::Key_Return);
-        });
-        QTest::mouseClick(&control<VistaButton>(*desk.window, "TekenKnop", 2), Qt::LeftButton);
+        desk.onPopUp([&](QMenu& menu) { desk.pick(menu, "Vormen(1)"); });
+        desk.click("TekenKnop(2)");
         QCOMPARE(desk.design.TekenModus, 2);
-        auto& cut = control<QCheckBox>(*desk.window, "Check2");
+        auto& cut = desk.at<QCheckBox>("Check2");
         QVERIFY(cut.isEnabled());
-        QCOMPARE(control<QLabel>(*desk.window, "InfoLabel").text(),
-                 QStringLiteral("Tekenen van verschillende vormen."));
-        auto& pic = control<SurfaceView>(*desk.window, "Pic");
+        QCOMPARE(desk.text("InfoLabel"), "Tekenen van verschillende vormen.");
+        auto& pic = desk.at<SurfaceView>("Pic");
         for (const bool hole : {false, true}) {
             cut.setChecked(hole);
             QTest::mousePress(&pic, Qt::LeftButton, {}, QPoint(50, 60));
@@ -105,16 +81,16 @@ private slots:
                    {"Ander.bmp", black}});
         QFile broken(desk.folder->filePath("Lijsten/Lijst-004.fra"));
         QVERIFY(broken.resize(100));
-        auto& slider = control<Fader>(*desk.window, "LijstScroll");
+        auto& slider = desk.at<Fader>("LijstScroll");
         QVERIFY(slider.isEnabled());
         QCOMPARE(slider.maximum(), 3);
-        QCOMPARE(desk.position(), QStringLiteral("1 / 3"));
+        QCOMPARE(desk.position(), "1 / 3");
         QCOMPARE(desk.shownRing(), RGB(1, 1, 1));
         slider.setValue(2);
-        QCOMPARE(desk.position(), QStringLiteral("2 / 3"));
+        QCOMPARE(desk.position(), "2 / 3");
         QCOMPARE(desk.shownRing(), RGB(2, 2, 2));
         slider.setValue(3); // cannot be read
-        QCOMPARE(desk.position(), QStringLiteral("3 / 3"));
+        QCOMPARE(desk.position(), "3 / 3");
         QCOMPARE(desk.shownRing(), RGB(2, 2, 2));
         slider.setValue(1);
         QCOMPARE(desk.shownRing(), RGB(1, 1, 1));
@@ -122,9 +98,9 @@ private slots:
 
     void TheFrameIsDrawnRoundTheDesignAndUndone() {
         Desk desk({{"Lijst-001.fra", RGB(1, 1, 1)}});
-        control<QAction>(*desk.window, "Richting", 2).trigger();
+        desk.at<QAction>("Richting(2)").trigger();
         desk.design.Gewijzigd = false;
-        auto& button = control<VistaButton>(*desk.window, "LijstKnop");
+        auto& button = desk.at<VistaButton>("LijstKnop");
         QVERIFY(button.isEnabled());
         button.click();
         PixelSurface expected(640, 440);
@@ -138,10 +114,10 @@ private slots:
 
     void WithoutFilesThePanelStaysAsItIs() {
         Desk desk;
-        QCOMPARE(desk.position(), QStringLiteral("1 / 0"));
-        control<Fader>(*desk.window, "LijstScroll").setValue(2);
-        QCOMPARE(desk.position(), QStringLiteral("1 / 0"));
-        control<VistaButton>(*desk.window, "LijstKnop").click();
+        QCOMPARE(desk.position(), "1 / 0");
+        desk.at<Fader>("LijstScroll").setValue(2);
+        QCOMPARE(desk.position(), "1 / 0");
+        desk.at<VistaButton>("LijstKnop").click();
         comparePictures(desk.design.Pic().Image(), PixelSurface(440, 640).Image());
     }
 };

@@ -1,40 +1,21 @@
-#include "controls/ControlTable.h"
-#include "controls/SurfaceView.h"
 #include "controls/TextLines.h"
-#include "controls/VistaButton.h"
-#include "design/window/Main.h"
 #include "tests/support/Answer.h"
+#include "tests/support/MainDesk.h"
 #include "tests/support/Pictures.h"
 #include "tests/support/Test.h"
-
-#include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QInputDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPlainTextEdit>
-#include <QTemporaryDir>
 
 using namespace kaart;
 
 namespace {
 
-/// A random picture on the canvas of a main window.
-struct Desk {
+/// A random picture on the canvas.
+struct Desk : MainDesk {
     Desk() {
         std::mt19937 random(5);
         design.open(randomPicture(440, 640, random), QString());
-        window.show();
     }
-    template <typename T>
-    T& at(const char* name) {
-        return control<T>(window, name);
-    }
-    void click(const char* button) { QTest::mouseClick(&at<VistaButton>(button), Qt::LeftButton); }
-    QImage seen() { return toSurfaceFormat(at<SurfaceView>("Pic").grab().toImage()); }
-    QString hint() { return at<QLabel>("InfoLabel").text(); }
+    QImage seen() { return toSurfaceFormat(pic().grab().toImage()); }
+    QString hint() { return text("InfoLabel"); }
     /// Saves under a name, given in the input box; returns what the box proposed.
     QString save(const QString& name) {
         QString proposed;
@@ -42,7 +23,7 @@ struct Desk {
             auto* box = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
             QVERIFY(box != nullptr);
             QCOMPARE(box->windowTitle() + box->labelText(),
-                     QStringLiteral("OpslaanGeef een naam voor deze tekst..."));
+                     "OpslaanGeef een naam voor deze tekst...");
             proposed = box->textValue();
             box->setTextValue(name);
             box->accept();
@@ -50,10 +31,6 @@ struct Desk {
         click("AlignKnop(4)");
         return proposed;
     }
-
-    QTemporaryDir folder;
-    Design design{{folder.path(), folder.path()}};
-    Main window{design, {}};
 };
 
 } // namespace
@@ -64,30 +41,29 @@ class TextPanelsTest : public QObject {
 private slots:
     void ATextLineIsPlacedWhereItIsSeen() {
         Desk desk;
-        desk.at<QLineEdit>("Text1").setText(QStringLiteral("Op && <b>af</b>!"));
-        desk.at<QComboBox>("Combo2").setCurrentText(QStringLiteral("30"));
+        desk.at<QLineEdit>("Text1").setText("Op && <b>af</b>!");
+        desk.at<QComboBox>("Combo2").setCurrentText("30");
         desk.at<QCheckBox>("ItalicCheck").click();
         desk.click("PlaatsKnop");
-        QCOMPARE(desk.hint(),
-                 QStringLiteral("Linkermuisknop is plaatsen van de tekst op het ontwerp."));
-        auto& pic = desk.at<SurfaceView>("Pic");
+        QCOMPARE(desk.hint(), "Linkermuisknop is plaatsen van de tekst op het ontwerp.");
+        auto& pic = desk.pic();
         QTest::mouseMove(&pic, QPoint(60, 300));
-        QVERIFY(desk.at<QLabel>("TextLabel").isVisible());
+        QVERIFY(desk.shown("TextLabel"));
         const QImage seen = desk.seen();
         QVERIFY(seen != desk.design.Pic().Image());
         QTest::mouseClick(&pic, Qt::LeftButton, {}, QPoint(60, 300));
-        QVERIFY(!desk.at<QLabel>("TextLabel").isVisible());
+        QVERIFY(!desk.shown("TextLabel"));
         comparePictures(desk.design.Pic().Image(), seen);
-        QCOMPARE(desk.hint(), QStringLiteral("Informatie..."));
+        QCOMPARE(desk.hint(), "Informatie...");
     }
 
     void AnEmptyLineIsAnError() {
         Desk desk;
-        desk.at<QLineEdit>("Text1").setText(QStringLiteral("  "));
+        desk.at<QLineEdit>("Text1").setText("  ");
         Answer answer;
         answer.press(QMessageBox::Ok);
         desk.click("PlaatsKnop");
-        QCOMPARE(answer.seen(), QStringList(QStringLiteral("Error|Géén tekst ingevuld...")));
+        QCOMPARE(answer.seen(), QStringList("Error|Géén tekst ingevuld..."));
         QVERIFY(!desk.design.TekstHangt);
     }
 
@@ -95,7 +71,7 @@ private slots:
         Desk desk;
         const auto example = [&] { return desk.at<QLabel>("TextExample").font(); };
         QCOMPARE(example().pixelSize(), 16);
-        desk.at<QComboBox>("Combo2").setCurrentText(QStringLiteral("20"));
+        desk.at<QComboBox>("Combo2").setCurrentText("20");
         desk.at<QCheckBox>("BoldCheck").click();
         QCOMPARE(example().pixelSize(), 27);
         QVERIFY(example().bold() && !example().italic());
@@ -116,8 +92,7 @@ private slots:
         desk.click("TekenKnop(6)");
         desk.click("AlignKnop(1)");
         desk.click("PlaatsKnop2");
-        QCOMPARE(desk.hint(),
-                 QStringLiteral("Beweeg de tekst met de muis, rechts klikken is plaatsen."));
+        QCOMPARE(desk.hint(), "Beweeg de tekst met de muis, rechts klikken is plaatsen.");
         auto& label = desk.at<QLabel>("TextLabel2");
         QCOMPARE(label.pos(), QPoint(0, 0));
         QCOMPARE(label.text(), desk.at<QPlainTextEdit>("Text2").toPlainText());
@@ -126,9 +101,7 @@ private slots:
         desk.at<QCheckBox>("Check4").click();
 
         QTest::mousePress(&label, Qt::LeftButton, {}, QPoint(9, 9));
-        QMouseEvent move(QEvent::MouseMove, QPointF(60, 89), label.mapToGlobal(QPointF(60, 89)),
-                         Qt::NoButton, Qt::LeftButton, {});
-        QApplication::sendEvent(&label, &move);
+        moveHeld(label, {60, 89});
         QTest::mouseRelease(&label, Qt::LeftButton, {}, QPoint(9, 9));
         QCOMPARE(label.pos(), QPoint(51, 80));
         QVERIFY(label.isVisible() && desk.design.TekstHangt);
@@ -153,11 +126,10 @@ private slots:
         QCOMPARE(HaalRegels(box).size(), 4);
         const QString text =
             QStringLiteral("Roosjes zijn rood en viooltjes zijn blauw maar ").repeated(2);
-        box.setPlainText(text + QStringLiteral("\n\neinde\u2028zacht"));
+        box.setPlainText(text + "\n\neinde\u2028zacht");
         const QStringList lines = HaalRegels(box);
         QVERIFY(lines.size() >= 6 && lines.size() <= 8);
-        QCOMPARE(lines.mid(lines.size() - 3).join(QLatin1Char('|')),
-                 QStringLiteral("|einde|zacht"));
+        QCOMPARE(lines.mid(lines.size() - 3).join(QLatin1Char('|')), "|einde|zacht");
         QCOMPARE(lines.mid(0, lines.size() - 3).join(QString()), text);
     }
 
@@ -166,45 +138,43 @@ private slots:
         desk.click("TekenKnop(6)");
         auto& box = desk.at<QPlainTextEdit>("Text2");
         auto& list = desk.at<QListWidget>("List1");
-        box.setPlainText(QStringLiteral("een\ntwee"));
-        QCOMPARE(desk.save(QStringLiteral("b vers")), QStringLiteral("Default"));
-        QCOMPARE(desk.at<QLabel>("Label22").text(), QStringLiteral(" b vers"));
-        desk.save(QStringLiteral("C"));
-        desk.save(QStringLiteral("A"));
+        box.setPlainText("een\ntwee");
+        QCOMPARE(desk.save("b vers"), "Default");
+        QCOMPARE(desk.text("Label22"), " b vers");
+        desk.save("C");
+        desk.save("A");
         for (const auto button : {QMessageBox::No, QMessageBox::Yes}) {
-            box.setPlainText(QStringLiteral("drie"));
+            box.setPlainText("drie");
             Answer answer;
             answer.press(button);
-            desk.save(QStringLiteral("b vers"));
-            QCOMPARE(answer.seen().value(0),
-                     QStringLiteral("File Exists|Bestandsnaam bestaat al, wil je deze "
-                                    "overschrijven?"));
+            desk.save("b vers");
+            QCOMPARE(answer.seen().value(0), "File Exists|Bestandsnaam bestaat al, wil je deze "
+                                             "overschrijven?");
             QVERIFY(!list.isEnabled());
             desk.click("AlignKnop(3)");
             QCOMPARE(list.count(), 3);
-            QCOMPARE(list.item(1)->text(), QStringLiteral("b vers.txt"));
+            QCOMPARE(list.item(1)->text(), "b vers.txt");
             const QPoint row = list.visualItemRect(list.item(1)).center();
             QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, row);
             QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, row);
-            QCOMPARE(box.toPlainText(), button == QMessageBox::No ? QStringLiteral("een\ntwee\n")
-                                                                  : QStringLiteral("drie\n"));
+            QCOMPARE(box.toPlainText(), button == QMessageBox::No ? "een\ntwee\n" : "drie\n");
         }
     }
 
     void FailuresAreToldAndTheNameShownStays() {
         Desk desk;
         desk.click("TekenKnop(6)");
-        desk.save(QStringLiteral("weg"));
+        desk.save("weg");
         desk.click("AlignKnop(3)");
         QVERIFY(QFile::remove(desk.design.Folders.in("Data/weg.txt")));
         Answer answer;
         answer.press(QMessageBox::Ok).press(QMessageBox::Ok);
-        desk.save(QStringLiteral("a/b"));
+        desk.save("a/b");
         QVERIFY(answer.seen().value(0).endsWith("|Fout bij het opslaan van de tekst!"));
-        desk.at<QLabel>("Label22").setText(QStringLiteral(" oud"));
+        desk.at<QLabel>("Label22").setText(" oud");
         emit desk.at<QListWidget>("List1").itemActivated(desk.at<QListWidget>("List1").item(0));
         QVERIFY(answer.seen().value(1).endsWith("|Fout bij het laden van de tekst!"));
-        QCOMPARE(desk.at<QLabel>("Label22").text(), QStringLiteral(" oud"));
+        QCOMPARE(desk.text("Label22"), " oud");
     }
 };
 
