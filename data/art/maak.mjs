@@ -1,7 +1,8 @@
 // Makes the picture libraries beside the program from their drawings: npm i @resvg/resvg-js sharp, then
 // node data/art/maak.mjs [folder] [number or name]
 //
-// "node data/art/maak.mjs Frames 4" makes Frame-004.jpg only, "... Stickers Feest" one sheet. README.md
+// "node data/art/maak.mjs Frames 4" makes Frame-004.jpg only, "... Stickers Feest" one sheet. With
+// "--svg <folder>" first, the drawings themselves are written there, for a drawing program. README.md
 // tells of the hand and of the files. Drawings are rendered twice too large and made smaller, so that
 // edges come out smooth; line drawings and sheets, large as they are, in their own size.
 import { createRequire } from 'node:module';
@@ -21,11 +22,15 @@ const source = new URL('.', import.meta.url);
 const target = new URL('../', source);
 const font = { loadSystemFonts: false, fontFiles: ['/usr/share/fonts/opentype/urw-base35/Z003-MediumItalic.otf'],
   fontDirs: ['/usr/share/fonts/truetype/liberation'] };
-const [onlyFolder, onlyName] = process.argv.slice(2);
+const given = process.argv.slice(2);
+const drawings = given[0] === '--svg' ? `${given.splice(0, 2)[1]}/` : '';
+const [onlyFolder, onlyName] = given;
 
-function render(width, height, inner, scale) {
-  const svg = `<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 ${width} ${height}">${inner}</svg>`;
-  const png = new Resvg(svg, { fitTo: { mode: 'width', value: width * scale }, background: '#fff', font }).render().asPng();
+const svgOf = ({ width, height, inner }) =>
+  `<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 ${width} ${height}">${inner}</svg>`;
+
+function render({ width, height, scale, ...drawing }) {
+  const png = new Resvg(svgOf({ width, height, ...drawing }), { fitTo: { mode: 'width', value: width * scale }, background: '#fff', font }).render().asPng();
   return sharp(png).resize(width, height, { kernel: 'cubic' }).flatten({ background: '#fff' });
 }
 
@@ -78,12 +83,17 @@ const pictures = [
   ...drawn('vectors/', 'Vectors', '.vec', greyPng),
 ];
 
-for (const { folder, key, file, width, height, inner, scale, encode } of pictures) {
+for (const picture of pictures) {
+  const { folder, key, file, encode } = picture;
   if ((onlyFolder && folder !== onlyFolder) || (onlyName && key !== onlyName)) {
     continue;
   }
+  if (drawings) {
+    writeFileSync(drawings + file.replace(/\.\w+$/, '.svg'), svgOf(picture));
+    continue;
+  }
   mkdirSync(new URL(`${folder}/`, target), { recursive: true });
-  const bytes = await encode(render(width, height, inner, scale));
+  const bytes = await encode(render(picture));
   writeFileSync(new URL(`${folder}/${file}`, target), bytes);
   console.log(`${folder}/${file}: ${bytes.length} bytes`);
 }
