@@ -13,8 +13,10 @@ function(kaart_room target folder)
     target_link_libraries(${target} PUBLIC ${ROOM_USES})
     # Only in the second build: in the first one each source must include what it uses, and
     # clang-tidy reads along.
-    if(KAART_SANITIZE AND folder MATCHES "window$|controls")
-        target_precompile_headers(${target} PRIVATE <QtWidgets>)
+    if(KAART_SANITIZE AND target STREQUAL "controls")
+        target_precompile_headers(controls PRIVATE <QtWidgets>)
+    elseif(KAART_SANITIZE AND folder MATCHES "window$")
+        target_precompile_headers(${target} REUSE_FROM controls)
     endif()
 endfunction()
 

@@ -1,6 +1,7 @@
 #include "design/session/ProgramFolders.h"
 
 #include "design/surface/TextFile.h"
+#include "design/surface/WholeFile.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -42,6 +43,16 @@ bool copyOnce(const QString& file, const QString& copy) {
     return true;
 }
 
+/// Nobody writes in a manual: a copy that differs is the one of another version.
+void renewManual(const QString& manual, const QString& copy) {
+    constexpr qint64 largest = 64LL << 20; // bytes
+    const auto bytes = readWholeFile(manual, largest);
+    const auto old = readWholeFile(copy, largest);
+    if (bytes && old && *bytes != *old) {
+        writeWholeFile(copy, *bytes);
+    }
+}
+
 } // namespace
 
 void seedFolders(const QString& from, const QString& to) {
@@ -58,7 +69,12 @@ void seedFolders(const QString& from, const QString& to) {
         while (files.hasNext()) {
             const QString file = files.next();
             const QString name = source.relativeFilePath(file);
-            if (!given.contains(name) && copyOnce(file, to + QLatin1Char('/') + name)) {
+            const QString copy = to + QLatin1Char('/') + name;
+            if (given.contains(name)) {
+                if (name.endsWith(QStringLiteral(".pdf"))) {
+                    renewManual(file, copy);
+                }
+            } else if (copyOnce(file, copy)) {
                 given << name;
             }
         }

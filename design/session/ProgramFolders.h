@@ -21,9 +21,9 @@ ProgramFolders findProgramFolders();
 ProgramFolders findProgramFolders(const QString& executableFolder);
 
 /// Makes the library folders in `to` and copies what `from` has in them, each file once: one that
-/// `to` has already stays as it is, and one that the user has deleted stays away.
-/// "Geleverd.txt" in `to` lists what has been copied. A copy that fails is tried again the next
-/// time.
+/// `to` has already stays as it is, and one that the user has deleted stays away. Only a manual,
+/// *.pdf, follows that of `from` as long as it is there. "Geleverd.txt" in `to` lists what has been
+/// copied. A copy that fails is tried again the next time.
 void seedFolders(const QString& from, const QString& to);
 
 } // namespace kaart

@@ -69,6 +69,7 @@ private slots:
         write(from + "/Data/Gedicht.txt", "nieuw");
         write(from + "/Data/map/Ander.txt", "ander");
         QFile::setPermissions(from + "/Data/map/Ander.txt", QFile::ReadOwner);
+        write(from + "/Data/Help.pdf", "oud");
         write(to + "/Data/Gedicht.txt", "van de gebruiker");
         seedFolders(from, to);
         QCOMPARE(read(to + "/Data/Gedicht.txt"), QByteArray("van de gebruiker"));
@@ -76,7 +77,8 @@ private slots:
         QVERIFY(QFile::permissions(to + "/Data/map/Ander.txt") & QFile::WriteOwner);
         QVERIFY(QFileInfo(to + "/Ontwerpen").isDir());
 
-        // The user clears up, and a new version has one more.
+        // The user clears up, and a new version has one more and another manual.
+        write(from + "/Data/Help.pdf", "nieuw");
         QVERIFY(QFile::remove(to + "/Data/Gedicht.txt"));
         QVERIFY(QFile::remove(to + "/Data/map/Ander.txt"));
         write(from + "/Lijsten/Lijst-009.fra", "rand");
@@ -84,6 +86,7 @@ private slots:
         QVERIFY(!QFile::exists(to + "/Data/Gedicht.txt"));
         QVERIFY(!QFile::exists(to + "/Data/map/Ander.txt"));
         QCOMPARE(read(to + "/Lijsten/Lijst-009.fra"), QByteArray("rand"));
+        QCOMPARE(read(to + "/Data/Help.pdf"), QByteArray("nieuw"));
         seedFolders(folder.filePath("nergens"), to);
     }
 
