@@ -1,5 +1,6 @@
 #include "controls/KeyPointer.h"
 
+#include "controls/ArrowStep.h"
 #include "controls/SurfaceView.h"
 
 #include <QApplication>
@@ -60,20 +61,11 @@ void KeyPointer::clickRight() {
 
 bool KeyPointer::press(const QKeyEvent& key) {
     const bool shift = key.modifiers().testFlag(Qt::ShiftModifier);
-    const int step = shift ? bigStep : 1;
+    if (const auto step = arrowStep(key.key())) {
+        move(*step * (shift ? bigStep : 1));
+        return true;
+    }
     switch (key.key()) {
-    case Qt::Key_Left:
-        move({-step, 0});
-        return true;
-    case Qt::Key_Right:
-        move({step, 0});
-        return true;
-    case Qt::Key_Up:
-        move({0, -step});
-        return true;
-    case Qt::Key_Down:
-        move({0, step});
-        return true;
     case Qt::Key_Space:
         if (!key.isAutoRepeat()) {
             move({});

@@ -19,7 +19,7 @@ void setForeColor(QWidget& widget, ColorRef fore);
 /// The back colour of the main window and of most others.
 inline constexpr ColorRef windowColor = RGB(230, 230, 190);
 
-/// The program's common look: fixed fonts in pixels, since windows are laid out in pixels, and a
+/// The program's common look: fixed fonts in pixels, since windows are laid out in pixels, a
 /// warm palette, and a ring round what the keyboard acts on. To be called once on the application,
 /// before the first window.
 void applyHouseStyle();

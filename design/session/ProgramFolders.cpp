@@ -31,7 +31,8 @@ QString installedLibraries(const QString& executableFolder) {
     return apart ? shared : QString();
 }
 
-bool copyOnce(const QString& file, const QString& copy) {
+/// Copies a file that the user hasn't got yet; false when that fails.
+bool give(const QString& file, const QString& copy) {
     if (QFileInfo::exists(copy)) {
         return true;
     }
@@ -44,7 +45,7 @@ bool copyOnce(const QString& file, const QString& copy) {
 }
 
 /// Nobody writes in a manual: a copy that differs is the one of another version.
-void renewManual(const QString& manual, const QString& copy) {
+void renew(const QString& manual, const QString& copy) {
     constexpr qint64 largest = 64LL << 20; // bytes
     const auto bytes = readWholeFile(manual, largest);
     const auto old = readWholeFile(copy, largest);
@@ -70,12 +71,10 @@ void seedFolders(const QString& from, const QString& to) {
             const QString file = files.next();
             const QString name = source.relativeFilePath(file);
             const QString copy = to + QLatin1Char('/') + name;
-            if (given.contains(name)) {
-                if (name.endsWith(QStringLiteral(".pdf"))) {
-                    renewManual(file, copy);
-                }
-            } else if (copyOnce(file, copy)) {
+            if (!given.contains(name) && give(file, copy)) {
                 given << name;
+            } else if (name.endsWith(QStringLiteral(".pdf"))) {
+                renew(file, copy);
             }
         }
     }

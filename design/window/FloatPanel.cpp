@@ -1,5 +1,6 @@
 #include "design/window/FloatPanel.h"
 
+#include "controls/ArrowStep.h"
 #include "controls/ControlTable.h"
 #include "controls/Shades.h"
 #include "design/session/Algemeen.h"
@@ -108,19 +109,12 @@ void FloatPanel::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void FloatPanel::keyPressEvent(QKeyEvent* event) {
-    switch (event->key()) {
-    case Qt::Key_Left:
-        return moveFloat(design_, {-1, 0});
-    case Qt::Key_Right:
-        return moveFloat(design_, {1, 0});
-    case Qt::Key_Up:
-        return moveFloat(design_, {0, -1});
-    case Qt::Key_Down:
-        return moveFloat(design_, {0, 1});
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        return popUp(mapToGlobal(rect().center()));
-    default:
+    const int key = event->key();
+    if (const auto step = arrowStep(key)) {
+        moveFloat(design_, *step);
+    } else if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+        popUp(mapToGlobal(rect().center()));
+    } else {
         SurfaceView::keyPressEvent(event);
     }
 }

@@ -1,5 +1,6 @@
 #include "design/window/LongTextPanel.h"
 
+#include "controls/ArrowStep.h"
 #include "controls/ControlTable.h"
 #include "controls/Messages.h"
 #include "controls/SurfaceView.h"
@@ -153,30 +154,16 @@ void LongTextPanel::placeText() {
 
 /// Moves the hanging text with the arrow keys and places it with Enter.
 bool LongTextPanel::pressKey(int key) {
-    QPoint by;
-    switch (key) {
-    case Qt::Key_Left:
-        by = {-1, 0};
-        break;
-    case Qt::Key_Right:
-        by = {1, 0};
-        break;
-    case Qt::Key_Up:
-        by = {0, -1};
-        break;
-    case Qt::Key_Down:
-        by = {0, 1};
-        break;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
         placeText();
         return true;
-    default:
-        return false;
     }
-    grabLongText(design_, {});
-    dragLongText(design_, by);
-    return true;
+    const auto step = arrowStep(key);
+    if (step) {
+        grabLongText(design_, {});
+        dragLongText(design_, *step);
+    }
+    return step.has_value();
 }
 
 bool LongTextPanel::eventFilter(QObject*, QEvent* event) {

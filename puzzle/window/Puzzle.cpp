@@ -1,5 +1,6 @@
 #include "puzzle/window/Puzzle.h"
 
+#include "controls/ArrowStep.h"
 #include "controls/Messages.h"
 #include "controls/SurfaceView.h"
 #include "design/session/Algemeen.h"
@@ -240,15 +241,10 @@ void Puzzle::keyPressEvent(QKeyEvent* event) {
     if (dragging || pieces_.empty()) {
         return;
     }
+    if (const auto step = arrowStep(event->key())) {
+        return moveFocus(step->x(), step->y());
+    }
     switch (event->key()) {
-    case Qt::Key_Left:
-        return moveFocus(-1, 0);
-    case Qt::Key_Right:
-        return moveFocus(1, 0);
-    case Qt::Key_Up:
-        return moveFocus(0, -1);
-    case Qt::Key_Down:
-        return moveFocus(0, 1);
     case Qt::Key_Space:
     case Qt::Key_Return:
     case Qt::Key_Enter:

@@ -5,6 +5,7 @@
 #include "libraries/ArrowSheet.h"
 #include "libraries/LineDrawing.h"
 #include "libraries/Sticker.h"
+#include "tests/support/Rows.h"
 #include "tests/support/Test.h"
 
 #include <QDir>
@@ -61,16 +62,11 @@ void rowsOf(const QString& folder, const QString& pattern) {
 class ShippedFilesTest : public QObject {
     Q_OBJECT
 
+    using Folder = Rows<QString, QString, int>; // pattern, first name and at least so many
+
 private slots:
     void EachFolderIsFullAndStartsWithItsFirstName_data() {
-        QTest::addColumn<QString>("pattern");
-        QTest::addColumn<QString>("first");
-        QTest::addColumn<int>("atLeast");
-        const auto row = [](const char* folder, const char* pattern, const char* first,
-                            int atLeast) {
-            QTest::newRow(folder) << QString::fromLatin1(pattern) << QString::fromLatin1(first)
-                                  << atLeast;
-        };
+        const Folder row;
         row("Frames", "*.jpg", "Frame-001.jpg", 16);
         row("Templates", "*.jpg", "Template-001.jpg", 16);
         row("Achtergronden", "*.jpg", "Achtergrond-001.jpg", 16);
@@ -81,9 +77,7 @@ private slots:
         row("Data", "*.txt", "", 24);
     }
     void EachFolderIsFullAndStartsWithItsFirstName() {
-        QFETCH(QString, pattern);
-        QFETCH(QString, first);
-        QFETCH(int, atLeast);
+        const auto [pattern, first, atLeast] = Folder::now();
         const QString folder = QString::fromLatin1(QTest::currentDataTag());
         const QStringList names = filesIn(folder, pattern);
         QVERIFY2(names.size() >= atLeast, qPrintable(names.join(u' ')));

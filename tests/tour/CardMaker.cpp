@@ -6,9 +6,11 @@
 
 using namespace kaart;
 
-void CardMaker::begin() {
+CardMaker::CardMaker(User& user, Design& design, int kind, const QString& file)
+    : user_(user), design_(design) {
     user_.during([&] { user_.press(Qt::Key_N, Qt::ControlModifier); },
                  [&] { user_.press(Qt::Key_Return); });
+    picture(kind, file);
 }
 
 void CardMaker::picture(int kind, const QString& file) {

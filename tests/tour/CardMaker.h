@@ -15,10 +15,9 @@ struct Lettering {
 /// Lays down a whole card from what lies in the box, with mouse and keys as anybody does.
 class CardMaker {
 public:
-    CardMaker(User& user, kaart::Design& design) : user_(user), design_(design) {}
+    /// Begins a card with a picture; what lay there is dropped.
+    CardMaker(User& user, kaart::Design& design, int kind, const QString& file);
 
-    /// An empty card; what lay there is dropped.
-    void begin();
     /// Frame (1), template (2), background (3) or mask (4), by its file.
     void picture(int kind, const QString& file);
     /// Sticker 0 to 4 of a sheet, so many pixels wide, its left top at a point of the card.

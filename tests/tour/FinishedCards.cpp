@@ -16,9 +16,7 @@ constexpr ColorRef ink = RGB(74, 63, 58);
 constexpr ColorRef terracotta = RGB(196, 84, 56);
 
 void childrensParty(User& user, Design& design) {
-    CardMaker card(user, design);
-    card.begin();
-    card.picture(1, QStringLiteral("Frame-004.jpg"));
+    CardMaker card(user, design, 1, QStringLiteral("Frame-004.jpg"));
     card.heading(QStringLiteral("Lotte wordt zeven!"),
                  {.size = "26", .colour = RGB(92, 70, 130), .bold = true}, {320, 60});
     card.poem(QStringLiteral("Uitnodiging kinderfeestje"), {.size = "14", .colour = ink},
@@ -29,9 +27,7 @@ void childrensParty(User& user, Design& design) {
 }
 
 void birth(User& user, Design& design) {
-    CardMaker card(user, design);
-    card.begin();
-    card.picture(1, QStringLiteral("Frame-005.jpg"));
+    CardMaker card(user, design, 1, QStringLiteral("Frame-005.jpg"));
     card.heading(QStringLiteral("Noor"), {.size = "48", .colour = terracotta, .italic = true},
                  {220, 110});
     card.poem(QStringLiteral("Geboorte meisje"), {.size = "14", .colour = ink, .italic = true},
@@ -40,9 +36,7 @@ void birth(User& user, Design& design) {
 }
 
 void wedding(User& user, Design& design) {
-    CardMaker card(user, design);
-    card.begin();
-    card.picture(1, QStringLiteral("Frame-006.jpg"));
+    CardMaker card(user, design, 1, QStringLiteral("Frame-006.jpg"));
     card.heading(QStringLiteral("Emma & Daan"),
                  {.size = "30", .colour = RGB(79, 107, 86), .italic = true}, {220, 140});
     card.poem(QStringLiteral("Uitnodiging bruiloft"), {.size = "16", .colour = ink, .italic = true},
@@ -51,18 +45,14 @@ void wedding(User& user, Design& design) {
 }
 
 void christmas(User& user, Design& design) {
-    CardMaker card(user, design);
-    card.begin();
-    card.picture(1, QStringLiteral("Frame-008.jpg"));
+    CardMaker card(user, design, 1, QStringLiteral("Frame-008.jpg"));
     card.poem(QStringLiteral("Kerstwens"), {.size = "18", .colour = RGB(140, 36, 25)}, {330, 150});
     card.sticker(QStringLiteral("Kerst.art"), 3, 120, {60, 165});
     card.finish(QStringLiteral("Kerst"), postcards);
 }
 
 void moved(User& user, Design& design) {
-    CardMaker card(user, design);
-    card.begin();
-    card.picture(2, QStringLiteral("Template-006.jpg"));
+    CardMaker card(user, design, 2, QStringLiteral("Template-006.jpg"));
     const Lettering hand{.size = "18", .colour = ink, .italic = true};
     card.heading(QStringLiteral("Familie de Vries"), hand, {320, 145});
     card.heading(QStringLiteral("Lindelaan 8 in Alkmaar"), hand, {320, 183});
@@ -70,9 +60,7 @@ void moved(User& user, Design& design) {
 }
 
 void thanks(User& user, Design& design) {
-    CardMaker card(user, design);
-    card.begin();
-    card.picture(3, QStringLiteral("Achtergrond-003.jpg"));
+    CardMaker card(user, design, 3, QStringLiteral("Achtergrond-003.jpg"));
     card.rings(9);
     card.drawing(QStringLiteral("Lente"), 198, QRect(75, 2, 222, 212), {110, 60});
     card.heading(QStringLiteral("Dank je wel!"),
@@ -82,9 +70,7 @@ void thanks(User& user, Design& design) {
 }
 
 void yearOfTulips(User& user, Design& design) {
-    CardMaker card(user, design);
-    card.begin();
-    card.picture(3, QStringLiteral("Achtergrond-006.jpg"));
+    CardMaker card(user, design, 3, QStringLiteral("Achtergrond-006.jpg"));
     card.picture(4, QStringLiteral("Masker-006.jpg"));
     card.sticker(QStringLiteral("Bloemen.art"), 2, 150, {60, 230});
     card.heading(QStringLiteral("Een jaar vol bloemen"),
